@@ -1,0 +1,26 @@
+// The user's answers to dialogs, queued ahead by the session (`answer DIALOG
+// VALUE...`) and used in order, one queue a kind of dialog. A dialog with nothing
+// queued takes its default.
+#pragma once
+
+#include <deque>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace host {
+
+class DialogAnswers {
+public:
+    // Dialog kinds: "AskMessage", "InputPassword", "InputBoxE", "SelectFreeItem",
+    // "SelectScheme", "SelectDocument", "ConfirmSaveOnExit", "ShowMemoDialog".
+    void Queue(const std::string& dialog, std::vector<std::string> values);
+    std::optional<std::vector<std::string>> Next(const std::string& dialog);
+    bool Pending(const std::string& dialog) const;
+
+private:
+    std::map<std::string, std::deque<std::vector<std::string>>> queues_;
+};
+
+}  // namespace host

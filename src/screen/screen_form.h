@@ -1,0 +1,33 @@
+// What a host that drives a screen with user events sees of it: its controls by
+// name, its grid, its fields as text, its routines, and the form's own events.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/controls.h"
+#include "platform/grid.h"
+#include "screen/host_services/hosted_form.h"
+#include "screen/routine_table.h"
+
+namespace screen {
+
+class ScreenForm : public host_services::HostedForm {
+public:
+    // nullptr when the form has no such control.
+    virtual platform::Control* FindControl(const std::string& name, int index = -1) = 0;
+    // The grid of the screen; nullptr when it has none.
+    virtual platform::DTFlex* Grid() = 0;
+    // A screen field written as text; nothing when the form has no such field.
+    virtual std::optional<std::string> FieldText(const std::string& name) const = 0;
+    virtual const RoutineTable& Routines() const = 0;
+    // The form previews every key before the control that has focus.
+    virtual bool KeyPreview() const = 0;
+    virtual void Form_KeyDown(int& KeyCode, int Shift) = 0;
+    // The user closes the screen: QueryUnload may refuse (true = cancelled); when it
+    // does not, Unload runs.
+    virtual bool Close() = 0;
+    virtual bool IsLoaded() const = 0;
+};
+
+}  // namespace screen

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/controls.h"
+#include "platform/event.h"
 #include "platform/grid.h"
 #include "screen/host_services/hosted_form.h"
 #include "screen/routine_table.h"
@@ -28,6 +29,9 @@ public:
     // does not, Unload runs.
     virtual bool Close() = 0;
     virtual bool IsLoaded() const = 0;
+
+    // Raised each time focus moves, with the control that took it.
+    platform::Event<platform::Control&> FocusMoved;
 };
 
 }  // namespace screen

@@ -29,7 +29,9 @@ public:
     // the wildcard are appended to it. Empty returns to the table's query.
     virtual void SetQuery(const std::string& sql, int flagA = 0, int flagB = 1) = 0;
     virtual void ListKeyDown(int& keyCode, int shift, int flag) = 0;
-    virtual void SetEnabled(bool enabled) = 0;
+    // True while the program writes into the box: the list must not pop up then.
+    // False lets typing show it again.
+    virtual void SetEnabled(bool programWriting) = 0;
     virtual void ShowList(const std::string& typedText) = 0;
     virtual void HideList() = 0;
     virtual bool GetVisible() const = 0;

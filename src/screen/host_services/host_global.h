@@ -11,6 +11,7 @@
 #include "platform/error_handler.h"
 #include "platform/value.h"
 #include "screen/host_services/host_context.h"
+#include "screen/host_services/host_main_form.h"
 #include "screen/host_services/hosted_form.h"
 
 namespace host_services {
@@ -83,6 +84,7 @@ public:
     virtual std::string GetFormIcon() = 0;
     using StyleArray = std::vector<std::string>;
     virtual void ApplyFormStyle(HostedForm& form, const StyleArray& header, const StyleArray& body) = 0;
+    virtual void ApplyFormStyle(HostLink& link, const StyleArray& header, const StyleArray& body) = 0;
     virtual StyleArray GetGridHeaderFont() = 0;
     virtual StyleArray GetGridBodyFont() = 0;
     virtual void ApplyGridStyle(platform::Control& grid) = 0;

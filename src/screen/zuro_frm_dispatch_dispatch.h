@@ -4,6 +4,7 @@
 // own folder.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -89,6 +90,123 @@ public:
     void cmdMemo_Click();
     void ClearMemoFields();
     void InitDTFlexDispatch();
+
+    // ---- pages, layout and focus -------------------------------------------------
+    void SetFrame(long nScreen);
+    void LayoutHeaderFields();
+    void LayoutCustomerFields();
+    void AlignControlsforDocumentNumber();
+    void MakeControlsVisible();
+    void SetTabStop(long nScreen);
+    void AdvanceField(int Shift);
+    void AdvanceField2(int Shift);
+    void RepositionAutolist();
+    void cmdChange_Click();
+    void cmdChange_KeyDown(int& KeyCode, int Shift);
+    void txtref_KeyDown(int& KeyCode, int Shift);
+    void txtRemarks_KeyDown(int& KeyCode, int Shift);
+    void txtBillingAddress_KeyPress(int& KeyAscii);
+    void txtShippingAddress_KeyPress(int& KeyAscii);
+    void DTDispatchDate_KeyDown(int& KeyCode, int Shift);
+
+    // ---- document type and numbering ---------------------------------------------
+    bool bComboDropped = false;
+    void GetNewDispatchID();
+    void LoadDocumentTypes(int nTransactionType);
+    void SetDocumentReference(int nTransactionType);
+    void GetRefNO();
+    void txtDocReference_KeyDown(int& KeyCode, int Shift);
+    void cbodocumenttype_KeyDown(int& KeyCode, int Shift);
+    void cbodocumenttype_KeyPress(int& KeyAscii);
+    void cbodocumenttype_DropDown();
+    void cbodocumenttype_Click();
+    void cbodocumenttype_LostFocus();
+
+    // ---- customer --------------------------------------------------------------------
+    int nLastKeyShift = 0;  // the Shift of the key that is running, for the key-press handlers
+    void InitCustAutolists();
+    void txtCustomer_Change();
+    void txtCustomerID_Change();
+    void txtCustomer_KeyDown(int& KeyCode, int Shift);
+    void txtCustomerID_KeyDown(int& KeyCode, int Shift);
+    void txtCustomer_KeyPress(int& KeyAscii);
+    void txtCustomerID_KeyPress(int& KeyAscii);
+    void txtCustomer_LostFocus();
+    void txtCustomerID_LostFocus();
+    void LoadCustomerAdd();
+    void HandleCtrlF7(int& KeyCode, int Shift);
+    void ClearCustomer();
+    long GetCustomerCategory(const std::string& szCustomerID);
+    static std::string DoubleQuotes(const std::string& szText);
+
+    // ---- customer credit -------------------------------------------------------------
+    void ShowCustomerCredit(const std::string& szName, bool bWithBills);
+    double GetCreditLimit(const std::string& szCode);
+    double GetOutstandingBalance(const std::string& szCode);
+    double GetCustomerOverDue(const std::string& szCode, long nKind);
+    double GetChequesInHand(const std::string& szCode);
+    platform::Value LoadBillsOutstanding(const std::string& szName);
+    bool IsTradeCustomer(const std::string& szCode);
+    static void ToUpperKey(int& nKeyAscii);
+
+    // ---- salesman, beat and category group -----------------------------------------
+    std::int16_t nPrevSalesmanID = 0;
+    std::string szPrevSalesmanName;
+    std::int16_t nPrevBeatID = 0;
+    std::string szPrevBeatName;
+    std::string szPrevCustomerCode, szPrevCustomerName;
+    std::string szPrevGroupID, szPrevGroupName;
+    bool bPartyAutoFilled = false;
+    bool bGroupReset = false;
+    bool bGroupClearedSalesman = false;
+    std::string szGroupIDs, szGroupNames;
+    std::string szCurrentGroupID;
+    void LoadSalesman();
+    void LoadBeat();
+    void LoadCustomer();
+    void LoadCategoryGroup(long nInd);
+    void LoadDefaultBeatSalesman();
+    void LoadPreviousValues();
+    void SetDefaultSalesman(long nSalesmanID);
+    void SetDefaultBeat(long nBeatID);
+    void SetDefaultCatGroup(const std::string& szGroup);
+    void CheckForGroupChange(const std::string& szGroup, long nInd);
+    void CheckForGridItem(long nSalesmanChange, bool& nResult);
+    void ResetCatGrp();
+    void GroupExistsForSalesman(long nSalesmanID, const std::string& szGroup, long& nResult);
+    static void GrpExists(const std::string& szOld, const std::string& szNew, bool& bAll, bool& bAny);
+    void DSTypeCatMapped(long nSalesmanID, long& nResult);
+    bool DSTypeNotMapped(const std::string& szGroup);
+    void CheckForAllCatGrpMapped(long nSalesmanID, long& nResult);
+    std::string GetCategoryGroupNames(const std::string& szGroupIDs);
+    void ClearSalesman();
+    void ClearBeat();
+    void ClearCategoryGroup();
+    long GetSalesmanID();
+    std::string GetSalesmanName();
+    long GetBeatID();
+    std::string GetBeatName();
+    std::string GetGroupID();
+    std::string GetGroupName();
+    bool ValidSalesman();
+    bool ValidBeat();
+    bool ValidCatGroup();
+    bool isBeatDeactivated(long nBeatID);
+    void txtSalesman_Change();
+    void txtSalesman_KeyDown(int& KeyCode, int Shift);
+    void txtSalesman_LostFocus();
+    void txtBeat_Change();
+    void txtBeat_KeyDown(int& KeyCode, int Shift);
+    void txtBeat_LostFocus();
+    void txtCategory_KeyDown(int& KeyCode, int Shift);
+    void txtCategory_LostFocus();
+    void CheckTinNumber();
+
+    // ---- row serials ---------------------------------------------------------------
+    static std::string GetSerialInAscOrder(const std::string& szList);
+
+    // The item list's two statements, set by the category group (ResetCatGrp).
+    std::string szItemCodeQuery, szItemNameQuery;
 
     // ---- call-backs of the host's lists -----------------------------------------
     void AutoListCallBack() override;

@@ -127,6 +127,11 @@ Zuro_frmDispatch_Dispatch::Zuro_frmDispatch_Dispatch(host_services::HostServices
     FrameAvailable.Container = &Frame3;
     FrameAvailable.Top = 6100, FrameAvailable.Left = 90, FrameAvailable.Height = 1000, FrameAvailable.Visible = false;
     lstAvailable.Container = &FrameAvailable, lstAvailable.Top = 200, lstAvailable.Left = 50, lstAvailable.Height = 750;
+    // The stock list's columns follow the fields of a batch; the third shows the
+    // price kind of the customer's category.
+    for (const char* heading : {"Batch", "Expiry", "Sale Price", "Quantity", "PKD", "Free", "Tax Suffered", "ECP", "PTS",
+                                "PTR", "Company Price", "Applicable On", "Part of Percentage"})
+        lstAvailable.ColumnHeaders.push_back({heading, 0, 0});
     cmdChange.Container = &FrameAvailable, cmdChange.Caption = "Set &Width", cmdChange.Visible = false;
     frameRemarks.Container = &Frame3, frameRemarks.Top = 6100, frameRemarks.Height = 700, frameRemarks.Caption = "Remarks";
     txtRemarks.Container = &frameRemarks, txtRemarks.Top = 220, txtRemarks.Left = 60, txtRemarks.Height = 400;

@@ -6,6 +6,8 @@
 namespace screen {
 
 namespace {
+constexpr int kDispatchTransaction = 5;
+
 struct ModeTitles {
     const char* frameTitle;
     const char* listCaption;  // nullptr: the mode has no list page
@@ -100,6 +102,8 @@ void Zuro_frmDispatch_Dispatch::InitForm(platform::Date DServerDate, long nModeA
                 }
                 if (nMode == mode::View || nMode == mode::Amendment) objLink->SetHelpContextID(63);
                 if (nMode == mode::Amendment) cmdContinue.Caption = messages.GetLabel("&Amend");
+                InitCustAutolists();
+                SetFrame(1);
                 ShowAllCustomers();
                 SelectActiveText();
                 if (nMode == mode::Amendment) {
@@ -115,6 +119,8 @@ void Zuro_frmDispatch_Dispatch::InitForm(platform::Date DServerDate, long nModeA
             case mode::FromAlert:
                 TitleFrame(titles.frameTitle);
                 Frame2.Caption = messages.GetLabel(titles.listCaption);
+                SetFrame(1);
+                InitCustAutolists();
                 ShowAllCustomers();
                 global.ShowStatus("Loading ...", 0);
                 global.ShowStatus(global.GetReadyMessage(), 0);
@@ -122,10 +128,16 @@ void Zuro_frmDispatch_Dispatch::InitForm(platform::Date DServerDate, long nModeA
                 break;
             case mode::NewDispatch:
                 TitleFrame(titles.frameTitle);
+                SetFrame(0);
+                InitCustAutolists();
+                RequireObject(objCustomerList).SetEnabled(true);
                 txtCustomer.SetText("");
                 txtCustomer.Tag.clear();
                 txtCustomerID.SetText("");
                 txtCustomerID.Tag.clear();
+                RequireObject(objCustomerList).SetEnabled(false);
+                GetNewDispatchID();
+                LoadDocumentTypes(kDispatchTransaction);
                 txtCustomerID.Container = &Frame4;
                 InitDTFlexDispatch();
                 break;

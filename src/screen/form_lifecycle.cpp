@@ -13,6 +13,7 @@ void Zuro_frmDispatch_Dispatch::Form_Load() {
     Handled("Form_Load", [&] {
         auto& global = host_.global;
         host_.messages.TranslateLoadedForm(*this);
+        SetTabStop(1);
         global.ApplyFormStyle(static_cast<host_services::HostedForm&>(*this), global.GetGridHeaderFont(),
                               global.GetGridBodyFont());
         global.ApplyGridStyle(DTFlexDispatch);
@@ -24,11 +25,7 @@ void Zuro_frmDispatch_Dispatch::Form_Resize() {
     Handled("Form_Resize", [&] {
         if (nMode != mode::View && nMode != mode::Cancel)
             host_.mainForm.InitShortCuts(host_.messages.GetLabel(host_.global.GetFormShortcutText()));
-        // The item look-up list hangs under the grid's bottom edge.
-        if (objItemList) {
-            objItemList->SetListTop(DTFlexDispatch.Top + DTFlexDispatch.Height);
-            objItemList->SetListLeft(DTFlexDispatch.Left);
-        }
+        RepositionAutolist();
     });
 }
 

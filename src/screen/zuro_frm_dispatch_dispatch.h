@@ -14,6 +14,7 @@
 
 #include "platform/controls.h"
 #include "platform/grid.h"
+#include "platform/runtime_error.h"
 #include "platform/value.h"
 #include "screen/host_services/host_services.h"
 #include "screen/screen_form.h"
@@ -236,6 +237,13 @@ private:
     template <class Body>
     bool Handled(const char* routine, Body&& body) {
         return platform::RunHandled(host_.global, std::string("Dispatch: ") + routine + " - ", body);
+    }
+
+    // An object that was never set raises the runtime's error 91 when used.
+    template <class T>
+    static T& RequireObject(const std::unique_ptr<T>& object) {
+        if (!object) throw platform::RuntimeError(platform::err::ObjectNotSet);
+        return *object;
     }
 
     void RegisterControls();

@@ -92,6 +92,9 @@ public:
     void ClearMemoFields();
     void InitDTFlexDispatch();
 
+    // ---- the document list -----------------------------------------------------------
+    void GetDetails();
+
     // ---- pages, layout and focus -------------------------------------------------
     void SetFrame(long nScreen);
     void LayoutHeaderFields();
@@ -135,6 +138,7 @@ public:
     void txtCustomer_LostFocus();
     void txtCustomerID_LostFocus();
     void LoadCustomerAdd();
+    void LoadCustomerInfo();
     void HandleCtrlF7(int& KeyCode, int Shift);
     void ClearCustomer();
     long GetCustomerCategory(const std::string& szCustomerID);

@@ -15,7 +15,11 @@ class DialogAnswers {
 public:
     // Dialog kinds: "AskMessage", "InputPassword", "InputBoxE", "SelectFreeItem",
     // "SelectScheme", "SelectDocument", "ConfirmSaveOnExit", "ShowMemoDialog".
+    // An unknown kind, or values the dialog could never give back, is refused with
+    // std::invalid_argument and nothing is queued.
     void Queue(const std::string& dialog, std::vector<std::string> values);
+    // Why Queue would refuse; empty when it would take the answer.
+    static std::string Problem(const std::string& dialog, const std::vector<std::string>& values);
     std::optional<std::vector<std::string>> Next(const std::string& dialog);
     bool Pending(const std::string& dialog) const;
 

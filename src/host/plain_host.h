@@ -4,6 +4,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,16 +26,33 @@ public:
 
 class PlainHost {
 public:
+    // The settings, transcript and answers are the caller's and must outlive the
+    // host. A null connection is refused with std::invalid_argument.
     PlainHost(platform::ConnectionPtr connection, Settings& settings, Transcript& transcript, DialogAnswers& answers);
     ~PlainHost();
+    PlainHost(const PlainHost&) = delete;
+    PlainHost& operator=(const PlainHost&) = delete;
 
     host_services::HostServices Services();
     host_services::HostContext& Context();
     host_services::HostGlobal& Global();
     // The list that stands open, or nullptr.
     OpenList* VisibleList();
-    // Folder that printed documents are written to.
+    // Folder that printed documents are written to (the setting OutputFolder).
     void SetOutputFolder(const std::string& folder);
+    // The working date GetCurrentDate answers with; today until it is set.
+    void SetServerDate(platform::Date date);
+
+    // ---- what the host noted, for whoever drives it --------------------------------
+    // The date the last save posted (SetLastTransactionDate); nothing before one.
+    std::optional<platform::Date> LastTransactionDate() const;
+    // One line a look applied: "form NAME ...", "frame HWND ...", "grid NAME ...", "dropdown NAME 200",
+    // "translate NAME".
+    const std::vector<std::string>& AppliedStyles() const;
+    // The hint line the main window shows (InitShortCuts).
+    std::string ShortcutText() const;
+    // How often the screen asked the context to refresh its day-close settings.
+    int CloseDayRefreshes() const;
 
 private:
     struct Impl;

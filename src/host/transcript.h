@@ -10,6 +10,9 @@
 
 namespace host {
 
+// A text as a session script writes it: in double quotes, with \" \\ and \t.
+std::string QuoteText(const std::string& text);
+
 struct StatusLine {
     int flag = 0;
     std::string text;
@@ -22,6 +25,7 @@ public:
 
     void Status(const std::string& text, int flag);              // "status FLAG TEXT"
     void Message(int buttons, const std::string& text, const std::string& answer);  // "message B \"T\" -> A"
+    // "NAME DETAIL -> ANSWER"; the dialog's name stands where a message box has "message".
     void Dialog(const std::string& name, const std::string& detail, const std::string& answer);
     void Numbered(long number);                                  // "numbered N"
     void Focus(const std::string& control);                      // "focus CONTROL"

@@ -45,7 +45,8 @@ public:
     std::string Tag;
     Control* Container = nullptr;  // the frame the control lies in; nullptr for the form
 
-    // True when the control and every frame around it are visible and enabled.
+    // True when the control can hold focus (labels and frames never do) and it and
+    // every frame around it are visible and enabled.
     bool CanTakeFocus() const;
     // Run-time error 5 when the control cannot take focus, as the runtime did.
     void SetFocus();

@@ -36,7 +36,7 @@ struct ResultSet {
 // A recordset holds every result of a call, materialised; it stands on one of them.
 class Recordset {
 public:
-    Recordset() = default;
+    Recordset() : Recordset(std::vector<ResultSet>{}) {}
     explicit Recordset(std::vector<ResultSet> results);
 
     bool Bof() const;  // before the first row (or no rows)

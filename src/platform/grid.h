@@ -7,6 +7,7 @@
 // RowColChange, SetCell raises nothing.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,7 +29,7 @@ public:
     void SetCell(int row, int col, std::string text);
     void RemoveRow(int row);       // rows below move up
     void ClearGrid();              // every data row's contents emptied
-    bool IsBlankRow(int row) const;  // every cell of the row (columns 1 up) empty
+    bool IsBlankRow(int row) const;  // every cell of the row (columns 1 up) empty; false for no such row
 
     // ---- current cell and editing --------------------------------------------
     int GridRow() const { return row_; }
@@ -38,7 +39,7 @@ public:
     bool Editing() const { return editing_; }
     const std::string& EditText() const { return editText_; }
     // Opens the current cell's editor holding the cell's text (a locked column does
-    // not open).
+    // not open); 0 drops an open edit.
     void SetCellEdit(int value);
     // Ends the open edit: the text goes into the cell and, for columns 1 to 6,
     // AfterColUpdate is raised; a cancel there keeps the editor open with the text
@@ -66,9 +67,9 @@ public:
     void SetColNext(int col, int next);  // where Enter goes from the column; 0 for the next one
     int ColNext(int col) const;
 
-    int VisibleCols = 0;
+    int VisibleCols = 0;        // the columns the user sees and reaches with the keys; 0 for all
     int EditStyle = 0;
-    int LastEntryCol = 0;       // Enter past this column goes to the next row; 0 for the last column
+    int LastEntryCol = 0;       // Enter past this column goes to the next row; 0 for the last column seen
     bool AllowAddRows = false;  // the user's entry in the last row adds a blank row under it
     bool AllowDeleteRows = false;
     bool GridEnabled = true;
@@ -80,10 +81,13 @@ public:
     // what the grid does: Enter ends an open edit and moves on by ColNext and
     // LastEntryCol (AtLastRow past the end of the last row), arrows move the current
     // cell (AtFirstRow before the first), a character key opens the editor of an
-    // unlocked cell and types, Backspace deletes the last character typed.
+    // unlocked cell and types, Backspace deletes the last character typed. Escape
+    // gives up the edit, Delete empties the editor, F4 drops the column's list. A
+    // handler that moves the current cell itself has taken the key's place.
     void UserKey(int keyCode, int shift = 0);
     // Typing a text: the KeyCode event for each character, then the editor holds the
-    // text of the characters not swallowed and Change is raised once.
+    // text of the characters not swallowed and Change is raised once. An empty text
+    // is the Delete key.
     void UserType(const std::string& text);
     // A move of the current cell by a click.
     void UserGoto(int row, int col);
@@ -109,17 +113,44 @@ private:
         int next = 0;
         Control* list = nullptr;
     };
+    Column& ColumnAt(int col);  // error 381 outside 0..GridCols
+    const Column& ColumnAt(int col) const;
     void CheckCell(int row, int col) const;
+    bool HasCurrentCell() const;
+    bool CurrentCellLocked() const;
+
+    // The current cell and its editor (grid_editing.cpp).
     void MoveTo(int row, int col);
-    void EnterForward(int shift);
+    void OpenEditor(std::string text);
+    void DropEdit();
     void AddEntryRowIfNeeded();
-    void DropAttachedList();
+    void DropListDown();
+    void HideDroppedList();
+
+    // What the user's keys do (grid_user.cpp).
+    bool AcceptsUserInput() const;
+    void ActOnKey(int keyCode, int shift);
+    void EnterForward();
+    void MoveByArrow(int keyCode);
+    bool TypeIntoEditor(const std::string& character, bool replaceEditorText);
+    void RemoveLastCharacter();
+    void EmptyEditor();
+    void GiveUpEdit();
+    int LastShownCol() const;
+    int LastEntryColumn() const;
 
     std::vector<std::vector<std::string>> cells_;  // [row][col], row 0 the headings
     std::vector<Column> columns_;                  // [col]
     int row_ = 1, col_ = 1;
     bool editing_ = false;
     std::string editText_;
+    std::string textBeforeEdit_;              // what Escape puts back
+    std::optional<std::string> refusedText_;  // what a refused commit left in the cell
+    // Counts changes of the current cell and its editor (moves, opening, dropping,
+    // removal of the current row), so that code which raised an event can tell
+    // whether a handler moved on meanwhile.
+    unsigned cellStamp_ = 0;
+    Control* droppedList_ = nullptr;  // the attached list the grid dropped down
 };
 
 }  // namespace platform

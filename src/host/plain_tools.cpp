@@ -1,0 +1,189 @@
+#include "host/plain_tools.h"
+
+#include "host/dialog_replies.h"
+#include "host/result_sets.h"
+#include "platform/convert.h"
+
+namespace host {
+namespace {
+
+std::string JoinTexts(const std::vector<std::string>& texts, const char* separator = ",") {
+    std::string joined;
+    for (std::size_t i = 0; i < texts.size(); ++i) joined += (i ? separator : "") + texts[i];
+    return joined;
+}
+
+}  // namespace
+
+bool AskForText(HostState& state, const std::string& dialog, const std::string& prompt, const std::string& title,
+                std::string& text) {
+    DialogReply reply = TakeReply(state.answers, dialog);
+    bool cancelled = reply.byDefault || reply.values[0] == "cancel";
+    text = cancelled ? "\t" : reply.values[0];
+    state.transcript.Dialog(dialog, QuoteText(prompt) + " " + QuoteText(title),
+                            reply.Shown(cancelled ? "cancel" : QuoteText(text)));
+    return !cancelled;
+}
+
+bool PlainTools::CheckCloseDay(platform::Date date, int) {
+    bool open = state_.settings.Boolean("CloseDayOpen");
+    auto opening = platform::ParseIsoDate(state_.settings.Text("GetOpeningDate"));
+    bool beforeOpening = opening && platform::DateOnly(date).serial < opening->serial;
+    if (beforeOpening) {
+        state_.transcript.Status("Transactions cannot be posted before the opening date " +
+                                     platform::DateToText(*opening) + ".", 1);
+        return false;
+    }
+    if (!open) {
+        state_.transcript.Status("Day close has been done for " + platform::DateToText(platform::DateOnly(date)) +
+                                     ". Transactions cannot be posted to it.", 1);
+        return false;
+    }
+    return true;
+}
+
+bool PlainTools::InputPassword(const std::string& prompt, const std::string& title, std::string& password) {
+    return AskForText(state_, "InputPassword", prompt, title, password);
+}
+
+void PlainTools::PrintDocument(int, std::string& templateName, const std::string&) {
+    templateName = state_.settings.Text("PrintDocument");
+}
+
+void PlainTools::ShowPrintDialog(const std::string& settingsFile, const std::string& abstractProcedure,
+                                 const std::string& detailProcedure, const std::string& key,
+                                 const std::string& documentKind, long, int flag) {
+    std::string file = printer_.Print({settingsFile, abstractProcedure, detailProcedure, documentKind, key},
+                                      state_.settings.Text("OutputFolder"));
+    state_.transcript.Print(documentKind + " " + key + " -> " + file + " (dialog, flag " + std::to_string(flag) + ")");
+}
+
+void PlainTools::PrintDirect(const std::string& settingsFile, const std::string& abstractProcedure,
+                             const std::string& detailProcedure, long, const std::string& documentKind, long key) {
+    std::string keyText = std::to_string(key);
+    std::string file = printer_.Print({settingsFile, abstractProcedure, detailProcedure, documentKind, keyText},
+                                      state_.settings.Text("OutputFolder"));
+    state_.transcript.Print(documentKind + " " + keyText + " -> " + file);
+}
+
+void PlainTools::ShowItemSchemes(const std::string& itemCode, platform::Date date, const std::string& customer,
+                                 const std::vector<double>& totals, long dispatchID) {
+    std::vector<std::string> figures;
+    for (double total : totals) figures.push_back(platform::NumberToText(total));
+    state_.transcript.Dialog("ShowItemSchemes",
+                             QuoteText(itemCode) + " " + platform::DateToIso(platform::DateOnly(date)) + " " +
+                                 QuoteText(customer) + " [" + JoinTexts(figures) + "] " + std::to_string(dispatchID),
+                             "ok");
+}
+
+void PlainTools::ShowWidthDialog(int screenNumber) {
+    state_.transcript.Dialog("ShowWidthDialog", std::to_string(screenNumber), "ok");
+}
+
+// The scheme rows: position 0 the scheme ID, 2 its type, 3 a flag, 4 the prompt
+// that goes with the scheme when the flag is 1.
+namespace {
+struct OfferedScheme {
+    std::string id;
+    long type = 0;
+    std::string prompt;
+};
+
+std::vector<OfferedScheme> OfferedSchemes(const platform::RecordsetPtr& schemes) {
+    std::vector<OfferedScheme> offered;
+    platform::RecordsetPtr rows = FirstResultWithRows(schemes);
+    if (!rows || !rows->IsOpen()) return offered;
+    int fields = rows->FieldCount();
+    for (; !rows->Eof(); rows->MoveNext()) {
+        OfferedScheme scheme;
+        scheme.id = platform::ToText(rows->Fields(0));
+        if (fields > 2) scheme.type = static_cast<long>(platform::ToNumber(rows->Fields(2)));
+        if (fields > 4 && platform::ToNumber(rows->Fields(3)) == 1) scheme.prompt = platform::ToText(rows->Fields(4));
+        offered.push_back(std::move(scheme));
+    }
+    return offered;
+}
+}  // namespace
+
+bool PlainTools::SelectScheme(const platform::RecordsetPtr& schemes, long& schemeID, long& schemeType,
+                              std::string& prompt, const std::string& itemCode) {
+    std::vector<OfferedScheme> offered = OfferedSchemes(schemes);
+    std::vector<std::string> ids;
+    for (const auto& scheme : offered) ids.push_back(scheme.id);
+    std::string detail = QuoteText(itemCode) + " [" + JoinTexts(ids) + "]";
+
+    DialogReply reply = TakeReply(state_.answers, "SelectScheme");
+    if (reply.byDefault || reply.values[0] == "none") {
+        state_.transcript.Dialog("SelectScheme", detail, reply.Shown("none"));
+        return false;
+    }
+    const std::string& wanted = reply.values[0];
+    for (const auto& scheme : offered) {
+        if (scheme.id != wanted) continue;
+        schemeID = static_cast<long>(platform::Val(scheme.id));
+        schemeType = scheme.type;
+        prompt = scheme.prompt;
+        state_.transcript.Dialog("SelectScheme", detail, wanted);
+        return true;
+    }
+    // The user can only pick a scheme the dialog lists.
+    state_.transcript.Dialog("SelectScheme", detail, wanted + " (not offered: none)");
+    return false;
+}
+
+bool PlainTools::SelectFreeItem(long schemeID, const std::string& schemeName, long slabID,
+                                std::string& freeItemCode) {
+    DialogReply reply = TakeReply(state_.answers, "SelectFreeItem");
+    bool chosen = !reply.byDefault && reply.values[0] != "none";
+    if (chosen) freeItemCode = reply.values[0];
+    state_.transcript.Dialog("SelectFreeItem",
+                             std::to_string(schemeID) + " " + QuoteText(schemeName) + " " + std::to_string(slabID),
+                             reply.Shown(chosen ? QuoteText(freeItemCode) : "none"));
+    return chosen;
+}
+
+std::string PlainTools::SelectDocument(int kind) {
+    DialogReply reply = TakeReply(state_.answers, "SelectDocument");
+    std::string reference = reply.byDefault ? std::string() : reply.values[0];
+    state_.transcript.Dialog("SelectDocument", std::to_string(kind),
+                             reply.Shown(reply.byDefault ? "cancel" : QuoteText(reference)));
+    return reference;
+}
+
+void PlainTools::SetNotFoundRecords(const platform::RecordsetPtr& records) {
+    notFound_.clear();
+    if (!records || !records->IsOpen()) return;
+    // The caller still reads and closes the recordset: walk a copy of it.
+    platform::Recordset rows = *records;
+    for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext())
+        if (rows.FieldCount() > 0) notFound_.push_back(platform::ToText(rows.Fields(0)));
+}
+
+void PlainTools::ShowNotFoundDialog(const std::string& text) {
+    state_.transcript.Dialog("ShowNotFoundDialog", QuoteText(text) + " [" + JoinTexts(notFound_) + "]", "ok");
+}
+
+void PlainTools::ShowDocumentInfoDialog(const std::vector<std::string>& items, const std::string& customer,
+                                        const std::string& serial, const std::string& group) {
+    state_.transcript.Dialog("ShowDocumentInfoDialog",
+                             QuoteText(customer) + " " + QuoteText(serial) + " " + QuoteText(group) + " [" +
+                                 JoinTexts(items) + "]",
+                             "ok");
+}
+
+bool PlainTools::ShowMemoDialog(std::string& memo1, std::string& memo2, std::string& memo3, bool readOnly, int) {
+    std::string given = QuoteText(memo1) + " " + QuoteText(memo2) + " " + QuoteText(memo3);
+    if (readOnly) given += " read-only";
+    DialogReply reply = TakeReply(state_.answers, "ShowMemoDialog");
+    bool accepted = !reply.byDefault && reply.values.back() == "ok";
+    // A note on view shows its memos but keeps them.
+    if (accepted && !readOnly && reply.values.size() == 4) {
+        memo1 = reply.values[0];
+        memo2 = reply.values[1];
+        memo3 = reply.values[2];
+    }
+    state_.transcript.Dialog("ShowMemoDialog", given, reply.Shown(accepted ? "ok" : "cancel"));
+    return accepted;
+}
+
+}  // namespace host

@@ -1,0 +1,15 @@
+#include "server/server_objects.h"
+
+#include "server/procedure_registry.h"
+#include "server/procedures/header_procedures.h"
+#include "server/procedures/parties_procedures.h"
+
+namespace server {
+
+void RegisterServerObjects(ProcedureRegistry& registry) {
+    // One call for each group of server objects, in the order they were added.
+    RegisterPartyProcedures(registry);
+    RegisterHeaderProcedures(registry);
+}
+
+}  // namespace server

@@ -1,0 +1,161 @@
+// Opening the screen in each mode, the grid's columns, and closing it.
+#include "grid/row_model/grid_columns.h"
+#include "platform/convert.h"
+#include "screen_fixture.h"
+
+namespace screen_test {
+namespace {
+
+using screen::Zuro_frmDispatch_Dispatch;
+
+class FormSpine : public ScreenTest {};
+
+TEST_F(FormSpine, EveryModeOpensOnItsPageWithoutAnError) {
+    for (long mode = 1; mode <= 7; ++mode) {
+        SCOPED_TRACE("mode " + std::to_string(mode));
+        Zuro_frmDispatch_Dispatch& f = Open(mode);
+        EXPECT_EQ(Errors(), 0) << ErrorLines();
+        EXPECT_EQ(f.nMode, mode);
+        if (mode == 2) {
+            EXPECT_EQ(f.ActiveControl(), &f.txtSalesman);
+            EXPECT_TRUE(f.Frame3.Enabled);
+            EXPECT_FALSE(f.Frame1(0).Enabled);
+            EXPECT_EQ(f.Frame1(0).Top, -10000);
+        } else {
+            EXPECT_EQ(f.ActiveControl(), &f.txtCustomer);
+            EXPECT_EQ(f.txtCustomer.Tag, "%");
+            EXPECT_EQ(f.txtCustomerID.Text(), "ALL CUSTOMERS");
+            EXPECT_FALSE(f.Frame3.Enabled);
+            EXPECT_EQ(f.Frame3.Top, -10000);
+        }
+        f.Close();
+    }
+}
+
+TEST_F(FormSpine, EachModeTitlesItsFrame) {
+    const char* titles[] = {"Dispatch from Sales Confirmation", "Generate New Dispatch", "Dispatch from Purchase Order",
+                            "View Dispatch", "Cancel Dispatch", "Dispatch from Sales Confirmation", "Dispatch Amendment"};
+    for (long mode = 1; mode <= 7; ++mode) {
+        Zuro_frmDispatch_Dispatch& f = Open(mode);
+        EXPECT_EQ(f.FieldText("objLink"), titles[mode - 1]) << "mode " << mode;
+        f.Close();
+    }
+    Zuro_frmDispatch_Dispatch& amend = Open(7);
+    EXPECT_EQ(amend.cmdContinue.Caption, "&Amend");
+    EXPECT_FALSE(Open(5).frameRemarks.Visible);
+    EXPECT_FALSE(Open(4).cmdApplyScheme.Visible);
+}
+
+TEST_F(FormSpine, AnAlertMovesOnlyTheFromDate) {
+    const platform::Date alert = platform::DateSerial(2026, 11, 1);
+    Zuro_frmDispatch_Dispatch& f = Open(6, Today(), alert);
+    EXPECT_EQ(f.dtFromDate.Value, alert);
+    EXPECT_EQ(f.dtToDate.Value, Today());
+    EXPECT_EQ(f.DTDispatchDate.Value, Today());
+    Zuro_frmDispatch_Dispatch& plain = Open(1, Today(), alert);
+    EXPECT_EQ(plain.dtFromDate.Value, Today());
+}
+
+TEST_F(FormSpine, TheGridHasItsFortyThreeColumns) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    auto& grid = f.DTFlexDispatch;
+    ASSERT_EQ(grid.GridCols(), 43);
+    EXPECT_EQ(grid.GetCell(0, grid::colItemCode), "Item Code");
+    EXPECT_EQ(grid.GetCell(0, grid::colPrimaryItemCode), "Item Code");
+    EXPECT_EQ(grid.GetCell(0, grid::colSplCategoryScheme), "SPLCATEGORYSCHEME ");
+    EXPECT_EQ(grid.GetCell(0, grid::colSplCatDiscAmount), "SPLCATDISCAMOUNT ");
+    for (int col = grid::colStoredBatch; col <= grid::colBatchCode; ++col) EXPECT_EQ(grid.GetCell(0, col), "");
+    EXPECT_EQ(grid.GetCell(0, grid::colMultiSpecialCatSchemeDetail), "multispecialcatschemedetail");
+    for (int col = 1; col <= 43; ++col) EXPECT_EQ(grid.ColWidth(col) > 0, col <= 6) << "column " << col;
+    EXPECT_TRUE(grid.ColLocked(grid::colBatch));
+    EXPECT_TRUE(grid.ColLocked(grid::colUOM));
+    EXPECT_TRUE(grid.ColLocked(grid::colSalePrice));
+    EXPECT_FALSE(grid.ColLocked(grid::colQuantity));
+    EXPECT_EQ(grid.ColInputClass(grid::colQuantity), 4);
+    EXPECT_EQ(grid.ColNext(grid::colItemCode), grid::colQuantity);
+    EXPECT_EQ(grid.ColNext(grid::colItemName), grid::colQuantity);
+    EXPECT_FALSE(grid.ColListAuto(grid::colUOM));
+    // A new note stands with one blank entry row.
+    EXPECT_EQ(grid.GridRows(), 1);
+    EXPECT_TRUE(grid.IsBlankRow(1));
+}
+
+TEST_F(FormSpine, TheGridFollowsTheMode) {
+    struct Expected {
+        long mode;
+        bool itemsLocked;
+        int lastEntryCol;
+        bool addRows;
+        bool deleteRows;
+    };
+    for (const Expected& e : {Expected{1, true, 5, false, true}, Expected{2, false, 5, true, true},
+                              Expected{3, true, 5, false, true}, Expected{6, true, 5, false, true},
+                              Expected{7, false, 2, true, true}, Expected{4, false, 0, false, false}}) {
+        SCOPED_TRACE("mode " + std::to_string(e.mode));
+        Zuro_frmDispatch_Dispatch& f = Open(e.mode);
+        EXPECT_EQ(f.DTFlexDispatch.ColLocked(grid::colItemCode), e.itemsLocked);
+        EXPECT_EQ(f.DTFlexDispatch.LastEntryCol, e.lastEntryCol);
+        EXPECT_EQ(f.DTFlexDispatch.AllowAddRows, e.addRows);
+        EXPECT_EQ(f.DTFlexDispatch.AllowDeleteRows, e.deleteRows);
+        f.Close();
+    }
+}
+
+TEST_F(FormSpine, ClosingWithOnlyTheBlankRowAsksNothing) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    EXPECT_FALSE(f.Close());
+    EXPECT_FALSE(TranscriptHas("ConfirmSaveOnExit"));
+    EXPECT_FALSE(f.IsLoaded());
+}
+
+TEST_F(FormSpine, ClosingWithALineAsksAndYesKeepsTheScreen) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    f.DTFlexDispatch.SetCell(1, grid::colItemCode, "ITM001");
+    f.cmdSave.Enabled = false;
+    answers.Queue("ConfirmSaveOnExit", {"true"});
+    EXPECT_TRUE(f.Close());  // refused, even with Save disabled
+    EXPECT_TRUE(f.IsLoaded());
+    ASSERT_TRUE(f.objLink);
+    EXPECT_EQ(f.objLink->Staus(), 1);
+
+    answers.Queue("ConfirmSaveOnExit", {"false"});
+    EXPECT_FALSE(f.Close());
+    EXPECT_FALSE(f.IsLoaded());
+}
+
+TEST_F(FormSpine, ViewAndCancelNeverAsk) {
+    for (long mode : {4L, 5L}) {
+        Zuro_frmDispatch_Dispatch& f = Open(mode);
+        f.DTFlexDispatch.SetGridRows(2);
+        f.DTFlexDispatch.SetCell(1, grid::colItemCode, "ITM001");
+        EXPECT_FALSE(f.Close());
+    }
+    EXPECT_FALSE(TranscriptHas("ConfirmSaveOnExit"));
+}
+
+TEST_F(FormSpine, TheMemoButtonKeepsWhatTheUserAccepted) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    answers.Queue("ShowMemoDialog", {"first", "second", "third", "ok"});
+    f.cmdMemo.Click.Raise();
+    EXPECT_EQ(f.szMemo1, "first");
+    EXPECT_EQ(f.szMemo3, "third");
+    EXPECT_EQ(LastStatus(), "Memo fields added successfully");
+    EXPECT_EQ(f.ActiveControl(), &f.cmdSave);
+
+    answers.Queue("ShowMemoDialog", {"changed", "", "", "cancel"});
+    f.cmdMemo.Click.Raise();
+    EXPECT_EQ(f.szMemo1, "first");
+}
+
+TEST_F(FormSpine, AnErrorInARoutineIsLoggedWithItsPrefix) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    // The receipt screen is not there: the class says so through the host's log.
+    platform::Date date = Today();
+    component->InitCForm(date, host->Context());
+    EXPECT_EQ(Errors(), 1);
+    EXPECT_TRUE(TranscriptHas("error 438 Dispatch: InitCForm - "));
+    (void)f;
+}
+
+}  // namespace
+}  // namespace screen_test

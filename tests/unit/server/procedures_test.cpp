@@ -1,0 +1,139 @@
+// Stored procedures and table functions through the connection: finding them by
+// name as the server did, what they answer, and their helpers.
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+#include "platform/runtime_error.h"
+#include "server/procedure_arguments.h"
+#include "server/procedure_context.h"
+#include "server_test_support.h"
+
+namespace server {
+namespace {
+
+using testkit::RowsText;
+
+// Takes stock out of a batch and answers what is left, after the row-count message.
+std::vector<platform::ResultSet> TakeStock(ProcedureContext& context, const platform::ParameterList& parameters) {
+    ProcedureArguments args(context.ObjectName(), parameters, {"@BatchCode", "@Quantity"});
+    args.ExpectAtMost(2);
+    context.Run("UPDATE Batch_Products SET Quantity = Quantity - ? WHERE Batch_Code = ?", {args.Float(1), args.Int(0)});
+    return context.WithRowCount(
+        context.Query("SELECT Quantity FROM Batch_Products WHERE Batch_Code = ?", {args.Int(0)}));
+}
+
+std::vector<platform::ResultSet> CustomerName(ProcedureContext& context, const platform::ParameterList& parameters) {
+    ProcedureArguments args(context.ObjectName(), parameters);
+    return {context.Query("SELECT Company_Name FROM Customer WHERE CustomerID = ?", {args.Text(0)})};
+}
+
+class Procedures : public ::testing::Test {
+protected:
+    Procedures() {
+        registry_.RegisterProcedure("sp_Take_Stock", &TakeStock);
+        registry_.RegisterProcedure("sp_get_CustomerName", &CustomerName);
+        connection_ = testkit::MakeSmallDatabase(folder_.File("procedures.db"), registry_);
+    }
+
+    testkit::ScratchFolder folder_;
+    ProcedureRegistry registry_;
+    std::shared_ptr<EmbeddedConnection> connection_;
+};
+
+TEST_F(Procedures, AreFoundWithoutRegardToCaseOrOwner) {
+    platform::ParameterList customer{{"C002", platform::adtype::VarChar}};
+    for (const char* name : {"sp_get_CustomerName", "SP_GET_CUSTOMERNAME", "dbo.sp_get_customername",
+                             "[dbo].[sp_get_CustomerName]", " Dbo.Sp_Get_CustomerName "}) {
+        EXPECT_EQ(RowsText(connection_->RunProcedure(name, customer)), "O'Brien & Sons") << name;
+    }
+    EXPECT_EQ(CanonicalObjectName("[dbo].[Fn_X]"), "fn_x");
+    EXPECT_EQ(CanonicalObjectName("other.sp_x"), "other.sp_x");  // another owner's object is another object
+    EXPECT_EQ(registry_.FindProcedure("other.sp_get_CustomerName"), nullptr);
+}
+
+TEST_F(Procedures, AnUnknownOneIsTheServersError) {
+    try {
+        connection_->RunProcedure("dbo.sp_no_such_thing", {});
+        FAIL();
+    } catch (const platform::RuntimeError& error) {
+        EXPECT_EQ(error.Number(), platform::err::DatabaseError);
+        EXPECT_EQ(error.Description(), "Could not find stored procedure 'dbo.sp_no_such_thing'.");
+    }
+    try {
+        connection_->Execute("Select * From dbo.Fn_No_Such(1)");
+        FAIL();
+    } catch (const platform::RuntimeError& error) {
+        EXPECT_EQ(error.Description(), "Invalid object name 'Fn_No_Such'.");
+    }
+}
+
+TEST_F(Procedures, AWriterAnswersWithTheRowCountFirst) {
+    auto recordset = connection_->RunProcedure("sp_Take_Stock", {{7, platform::adtype::Integer}, {"12.5", platform::adtype::Double}});
+    EXPECT_EQ(recordset->FieldCount(), 0);
+    EXPECT_EQ(recordset->RowsAffected(), 1);
+    ASSERT_TRUE(recordset->NextRecordset());
+    EXPECT_EQ(recordset->Fields(0), platform::Value(87.5));
+    EXPECT_FALSE(recordset->NextRecordset());
+}
+
+TEST_F(Procedures, ArgumentErrorsAreTheServers) {
+    auto description = [&](const platform::ParameterList& parameters) {
+        try {
+            connection_->RunProcedure("sp_Take_Stock", parameters);
+        } catch (const platform::RuntimeError& error) {
+            return error.Description();
+        }
+        return std::string("(no error)");
+    };
+    EXPECT_EQ(description({{7, platform::adtype::Integer}}),
+              "Procedure or function 'sp_Take_Stock' expects parameter '@Quantity', which was not supplied.");
+    EXPECT_EQ(description({{7, 3}, {1, 5}, {1, 5}}), "Procedure or function sp_Take_Stock has too many arguments specified.");
+    EXPECT_EQ(description({{"7b", platform::adtype::VarChar}, {1, 5}}),
+              "Conversion failed when converting the varchar value '7b' to data type int.");
+    // Nothing was taken by the refused calls.
+    EXPECT_EQ(RowsText(connection_->ExecuteNative("SELECT Quantity FROM Batch_Products WHERE Batch_Code = 7")), "100r");
+}
+
+TEST_F(Procedures, ContextHelpers) {
+    ProcedureContext context(*connection_, "helpers");
+    EXPECT_TRUE(context.Scalar("SELECT Company_Name FROM Customer WHERE CustomerID = ?", {"none"}).IsNull());
+    EXPECT_EQ(context.Scalar("SELECT count(*) FROM Items"), platform::Value(3));
+    EXPECT_EQ(context.Run("UPDATE Items SET UOM = 3 WHERE CategoryID = ?", {1}), 2);
+    EXPECT_EQ(context.Run("INSERT INTO Schemes (SchemeType) VALUES (1)"), 1);
+    EXPECT_EQ(context.LastInsertId(), 3);
+    EXPECT_EQ(context.RowsChanged(), 3);
+    EXPECT_EQ(RowsText(context.CallProcedure("dbo.sp_get_CustomerName", {{"C001", 200}}).front()), "Acme Traders");
+    EXPECT_THROW(context.Query("SELECT ? FROM Items", {}), platform::RuntimeError);
+    EXPECT_THROW(context.Query("SELECT 1; SELECT 2"), platform::RuntimeError);
+}
+
+TEST(ProcedureRegistry, RefusesANameTwice) {
+    ProcedureRegistry registry;
+    registry.RegisterProcedure("sp_x", [](ProcedureContext&, const platform::ParameterList&) {
+        return std::vector<platform::ResultSet>{};
+    });
+    EXPECT_THROW(registry.RegisterProcedure("DBO.SP_X", [](ProcedureContext&, const platform::ParameterList&) {
+        return std::vector<platform::ResultSet>{};
+    }),
+                 std::logic_error);
+    registry.RegisterTableFunction("sp_x", [](ProcedureContext&, const std::vector<platform::Value>&) {
+        return platform::ResultSet{};
+    });
+    EXPECT_EQ(registry.ProcedureNames(), std::vector<std::string>{"sp_x"});
+    EXPECT_EQ(registry.TableFunctionNames(), std::vector<std::string>{"sp_x"});
+}
+
+TEST(ProcedureRegistry, TheDefaultOneServesConnectionsMadeWithoutOne) {
+    DefaultRegistry().RegisterProcedure("sp_test_default_registry", [](ProcedureContext& context, const platform::ParameterList&) {
+        return std::vector<platform::ResultSet>{context.Query("SELECT 'found'")};
+    });
+    testkit::ScratchFolder folder;
+    auto made = testkit::MakeSmallDatabase(folder.File("default.db"), DefaultRegistry());
+    made.reset();
+    EmbeddedConnection connection(folder.File("default.db"));
+    EXPECT_EQ(RowsText(connection.RunProcedure("SP_TEST_DEFAULT_REGISTRY", {})), "found");
+}
+
+}  // namespace
+}  // namespace server

@@ -1,0 +1,108 @@
+// The three transaction calls, and what they mean for a second clerk on the same file.
+#include <chrono>
+
+#include <gtest/gtest.h>
+
+#include "platform/runtime_error.h"
+#include "server_test_support.h"
+
+namespace server {
+namespace {
+
+using testkit::RowsText;
+
+std::string DescriptionOf(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const platform::RuntimeError& error) {
+        EXPECT_EQ(error.Number(), platform::err::DatabaseError);
+        return error.Description();
+    }
+    return "(no error)";
+}
+
+class Transactions : public ::testing::Test {
+protected:
+    Transactions() {
+        first_ = testkit::MakeSmallDatabase(folder_.File("shared.db"), registry_);
+        EmbeddedConnection::Options impatient;
+        impatient.busyTimeoutMs = 200;
+        second_ = std::make_shared<EmbeddedConnection>(folder_.File("shared.db"), impatient, registry_);
+    }
+
+    std::string Stock(EmbeddedConnection& connection) {
+        return RowsText(connection.ExecuteNative("SELECT Quantity FROM Batch_Products WHERE Batch_Code = 7"));
+    }
+
+    testkit::ScratchFolder folder_;
+    ProcedureRegistry registry_;
+    std::shared_ptr<EmbeddedConnection> first_;
+    std::shared_ptr<EmbeddedConnection> second_;
+};
+
+TEST_F(Transactions, BeginTakesTheWriteLockAtOnce) {
+    first_->BeginTrans();
+    EXPECT_TRUE(first_->InTransaction());
+
+    // The second clerk's writer waits out its busy timeout, then fails.
+    auto started = std::chrono::steady_clock::now();
+    EXPECT_EQ(DescriptionOf([&] { second_->Execute("UPDATE Batch_Products SET Quantity = 0 WHERE Batch_Code = 7"); }),
+              "database is locked");
+    EXPECT_GE(std::chrono::steady_clock::now() - started, std::chrono::milliseconds(150));
+    EXPECT_EQ(DescriptionOf([&] { second_->BeginTrans(); }), "database is locked");
+    EXPECT_FALSE(second_->InTransaction());
+
+    // Readers are not held up, and see what was committed.
+    first_->Execute("UPDATE Batch_Products SET Quantity = Quantity - 40 WHERE Batch_Code = 7");
+    EXPECT_EQ(Stock(*second_), "100r");
+    first_->CommitTrans();
+    EXPECT_FALSE(first_->InTransaction());
+    EXPECT_EQ(Stock(*second_), "60r");
+
+    // With the lock released the second writer goes through.
+    second_->Execute("UPDATE Batch_Products SET Quantity = Quantity - 10 WHERE Batch_Code = 7");
+    EXPECT_EQ(Stock(*first_), "50r");
+}
+
+TEST_F(Transactions, RollbackLeavesTheFileAsItWas) {
+    first_->BeginTrans();
+    first_->Execute("UPDATE Batch_Products SET Quantity = 0 WHERE Batch_Code = 7");
+    first_->Execute("Insert Into DispatchAbstract (DispatchID, CustomerID, Status) Values (9, 'C001', 2)");
+    first_->Execute("Delete From DispatchDetail");
+    first_->RollbackTrans();
+    EXPECT_FALSE(first_->InTransaction());
+
+    first_.reset();
+    second_.reset();
+    EmbeddedConnection reopened(folder_.File("shared.db"), {}, registry_);
+    EXPECT_EQ(Stock(reopened), "100r");
+    EXPECT_EQ(RowsText(reopened.ExecuteNative("SELECT count(*) FROM DispatchAbstract")), "2");
+    EXPECT_EQ(RowsText(reopened.ExecuteNative("SELECT count(*) FROM DispatchDetail")), "2");
+}
+
+TEST_F(Transactions, RefusesCallsOutOfOrder) {
+    EXPECT_EQ(DescriptionOf([&] { first_->CommitTrans(); }),
+              "The COMMIT TRANSACTION request has no corresponding BEGIN TRANSACTION.");
+    EXPECT_EQ(DescriptionOf([&] { first_->RollbackTrans(); }),
+              "The ROLLBACK TRANSACTION request has no corresponding BEGIN TRANSACTION.");
+    first_->BeginTrans();
+    EXPECT_EQ(DescriptionOf([&] { first_->BeginTrans(); }), "Only one transaction can be active on this session.");
+    EXPECT_TRUE(first_->InTransaction());  // the refused call left the open one alone
+    first_->RollbackTrans();
+    EXPECT_EQ(DescriptionOf([&] { first_->RollbackTrans(); }),
+              "The ROLLBACK TRANSACTION request has no corresponding BEGIN TRANSACTION.");
+}
+
+TEST_F(Transactions, AFailedStatementInsideLeavesTheTransactionOpen) {
+    first_->BeginTrans();
+    first_->Execute("UPDATE Batch_Products SET Quantity = 1 WHERE Batch_Code = 7");
+    // A row for an item that does not exist breaks a foreign key.
+    EXPECT_EQ(DescriptionOf([&] { first_->Execute("Insert Into Batch_Products (Batch_Code, Product_Code) Values (99, 'NONE')"); }),
+              "FOREIGN KEY constraint failed");
+    EXPECT_TRUE(first_->InTransaction());
+    first_->RollbackTrans();
+    EXPECT_EQ(Stock(*first_), "100r");
+}
+
+}  // namespace
+}  // namespace server

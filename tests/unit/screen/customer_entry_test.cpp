@@ -1,0 +1,153 @@
+// Choosing the customer, what comes with it, and the credit line.
+#include "screen_fixture.h"
+
+namespace screen_test {
+namespace {
+
+using screen::Zuro_frmDispatch_Dispatch;
+
+class CustomerEntry : public ScreenTest {};
+
+TEST_F(CustomerEntry, AChosenCustomerBringsAddressesCategoryAndPriceHeading) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    Type(f.txtCustomer, "City");
+    ASSERT_EQ(ListRows(), std::vector<std::string>{"City Medicals"});
+    Pick(1);
+    Key(f.txtCustomer, 13);
+    EXPECT_EQ(f.txtCustomerID.Text(), "C003");
+    EXPECT_EQ(f.nCustomerCategory, 3);
+    // The demo's label table shortens the heading.
+    EXPECT_EQ(f.lstAvailable.ColumnHeaders[2].Text, "Spl. Price");
+    EXPECT_FALSE(f.txtBillingAddress.Text().empty());
+    EXPECT_EQ(Errors(), 0);
+}
+
+TEST_F(CustomerEntry, TheListPageOffersAllCustomersButANewNoteDoesNot) {
+    Zuro_frmDispatch_Dispatch& listPage = Open(1);
+    Type(listPage.txtCustomer, "A");
+    auto rows = ListRows();
+    ASSERT_FALSE(rows.empty());
+    EXPECT_EQ(rows.front(), "ALL CUSTOMERS");
+    listPage.Close();
+
+    Zuro_frmDispatch_Dispatch& note = Open(2);
+    Type(note.txtCustomer, "A");
+    rows = ListRows();
+    ASSERT_FALSE(rows.empty());
+    EXPECT_NE(rows.front(), "ALL CUSTOMERS");
+}
+
+TEST_F(CustomerEntry, ATypedNameWithoutAChoiceIsRefused) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    Type(f.txtCustomer, "Anand Traders");  // no such customer: the list has nothing to pick
+    ASSERT_TRUE(ListRows().empty());
+    Key(f.txtCustomer, 13);
+    EXPECT_EQ(LastStatus(), "Select an existing Customer.");
+    EXPECT_EQ(f.txtCustomer.Text(), "");
+    EXPECT_EQ(f.txtCustomerID.Tag, "");
+    EXPECT_EQ(f.ActiveControl(), &f.txtCustomer);
+}
+
+TEST_F(CustomerEntry, EnterWithTheListOpenTakesItsHighlightedRow) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    Type(f.txtCustomer, "Anand");
+    Key(f.txtCustomer, 13);
+    EXPECT_EQ(f.txtCustomer.Tag, "C001");
+    EXPECT_EQ(f.txtCustomerID.Text(), "C001");
+}
+
+TEST_F(CustomerEntry, ClearingTheNameClearsTheCodeOnLeaving) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    f.txtCustomerID.SetText("C005");
+    Type(f.txtCustomer, "");
+    f.txtSalesman.SetFocus();
+    EXPECT_EQ(f.txtCustomerID.Text(), "");
+}
+
+TEST_F(CustomerEntry, SmallHelpers) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    EXPECT_EQ(Zuro_frmDispatch_Dispatch::DoubleQuotes("Devi's O'Mart"), "Devi''s O''Mart");
+    EXPECT_EQ(f.GetCustomerCategory("C007"), 4);
+    EXPECT_EQ(f.GetCustomerCategory("NOBODY"), 0);
+    int key = 'q';
+    Zuro_frmDispatch_Dispatch::ToUpperKey(key);
+    EXPECT_EQ(key, 'Q');
+    key = '{';
+    Zuro_frmDispatch_Dispatch::ToUpperKey(key);
+    EXPECT_EQ(key, '{');
+    EXPECT_TRUE(f.IsTradeCustomer("C001"));
+    EXPECT_FALSE(f.IsTradeCustomer("C007"));
+}
+
+TEST_F(CustomerEntry, CtrlF7AsksForAFormTheScreenNeverMakes) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    int key = 118;
+    f.HandleCtrlF7(key, 2);
+    EXPECT_TRUE(TranscriptHas("error 91 Global : HandleCtrlF7 : "));
+    EXPECT_EQ(f.FieldText("nCustomerEntrySource"), "0");
+    int other = 118;
+    f.HandleCtrlF7(other, 0);
+    EXPECT_EQ(Errors(), 1);
+}
+
+TEST_F(CustomerEntry, TheCustomerFormHandsBackACustomer) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    f.nCustomerEntrySource = 2;
+    f.CustomerCallBack("C009", "Lakshmi Provisions");
+    EXPECT_EQ(f.txtCustomerID.Text(), "C009");
+    EXPECT_EQ(f.txtCustomerID.Tag, "C009");
+    EXPECT_EQ(f.ActiveControl(), &f.txtCustomerID);
+    f.nCustomerEntrySource = 1;
+    f.CustomerCallBack("C009", "Lakshmi Provisions");
+    EXPECT_EQ(f.txtCustomer.Text(), "Lakshmi Provisions");
+    EXPECT_EQ(f.txtCustomer.Tag, "C009");
+}
+
+TEST_F(CustomerEntry, TheTickedDocumentsNameTheCustomer) {
+    Zuro_frmDispatch_Dispatch& f = Open(1);
+    f.lstSO.Clear();
+    auto& header = f.lstSO.Add("Anand Stores");
+    header.Tag = "C001";
+    header.Checked = true;
+    auto& document = f.lstSO.Add();
+    document.Tag = "C001";
+    document.Checked = true;
+    document.SetSubItem(1, "SC4");
+    document.SetSubItem(6, "4");
+    f.GetDetails();
+    EXPECT_EQ(f.szDocNumbers, "4");
+    EXPECT_EQ(f.szDocIDs, "SC4");
+    EXPECT_EQ(f.szCustomerCode, "C001");
+    EXPECT_EQ(f.szCustomerName, "Anand Stores");
+}
+
+class CustomerCredit : public ScreenTest {};
+
+TEST_F(CustomerCredit, TheFiguresOfTheCreditLine) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    f.ShowCustomerCredit("Deepam Supermarket", false);
+    EXPECT_EQ(LastStatus(), "Net Cr Limit: 5000.00, Net O/S: 5200.00, Not Overdue: 5200.00, Overdue: 0.00, Chqs in Hand: 0");
+    // Only a limit of -1 reads N/A.
+    f.ShowCustomerCredit("Bharat Traders", false);
+    EXPECT_EQ(LastStatus().rfind("Net Cr Limit: N/A,", 0), 0u);
+    // A customer in credit shows a negative amount owed.
+    EXPECT_GT(f.GetOutstandingBalance("C011"), 0);
+    f.ShowCustomerCredit("Nila Enterprises", false);
+    EXPECT_NE(LastStatus().find("Net O/S: -"), std::string::npos);
+    // Overdue bills and cheques in hand.
+    EXPECT_GT(f.GetCustomerOverDue("C006", 1), 0);
+    EXPECT_DOUBLE_EQ(f.GetChequesInHand("C014"), 3500);
+    f.ShowCustomerCredit("Sundar & Sons", true);
+    EXPECT_NE(LastStatus().find("Chqs in Hand: 3500, No.of Bills O/S: "), std::string::npos);
+}
+
+TEST_F(CustomerCredit, AnUnknownCustomerReadsZeroEverywhere) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    f.ShowCustomerCredit("No Such Customer", true);
+    EXPECT_EQ(LastStatus(),
+              "Net Cr Limit: 0.00, Net O/S: 0.00, Not Overdue: 0.00, Overdue: 0.00, Chqs in Hand: 0, No.of Bills O/S: 0");
+    EXPECT_EQ(Errors(), 0);
+}
+
+}  // namespace
+}  // namespace screen_test

@@ -213,6 +213,18 @@ public:
     // The item list's two statements, set by the category group (ResetCatGrp).
     std::string szItemCodeQuery, szItemNameQuery;
 
+    // ---- item look-up, row serials, units of measure ----------------------------------
+    // (look-up, serials and units: declarations of these routines and fields go here)
+    // ---- end of item look-up, row serials, units of measure ---------------------------
+
+    // ---- item entry, pricing and batches --------------------------------------------------
+    // (entry, pricing and batches: declarations of these routines and fields go here)
+    // ---- end of item entry, pricing and batches ----------------------------------------
+
+    // ---- scheme arithmetic, grid keyboard and rows -------------------------------------
+    // (schemes and keyboard: declarations of these routines and fields go here)
+    // ---- end of scheme arithmetic, grid keyboard and rows ------------------------------
+
     // ---- call-backs of the host's lists -----------------------------------------
     void AutoListCallBack() override;
     void CustomerCallBack(const std::string& szCustomerCode, const std::string& szCustomerName) override;
@@ -254,6 +266,7 @@ private:
     void RegisterRoutines();
     void RegisterFields();
     void WireEvents();
+    void WirePartyEvents();
     void TitleFrame(const std::string& title);
     void ShowAllCustomers();
     void SelectActiveText();

@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# Sets a fresh Debian machine up (run as root): installs the packages that are
+# missing, builds, writes the demo database and runs the demo session.
+#   BUILD   build folder (default: build)
+#   JOBS    parallel compile jobs (default: all cores)
+set -euo pipefail
+cd "$(dirname "$0")/.."
+source scripts/packages.sh
+
+BUILD=${BUILD:-build}
+JOBS=${JOBS:-$(nproc)}
+
+install_missing_packages
+cmake -S . -B "$BUILD" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
+cmake --build "$BUILD" -j "$JOBS"
+"$BUILD"/dispatch demo-db "$BUILD"/demo.db --force
+
+echo
+echo "== the demo session (tests/sessions/demo.session) =="
+"$BUILD"/dispatch session tests/sessions/demo.session

@@ -1,0 +1,16 @@
+// Which keys give a character (the KeyPress event) and which character, as the
+// runtime raised it on a US keyboard: Enter, Escape, Backspace and the printable keys.
+#pragma once
+
+#include <optional>
+
+namespace session {
+
+// Shift bits as the key events carry them.
+inline constexpr int ShiftBit = 1, CtrlBit = 2, AltBit = 4;
+
+// The KeyAscii of a key code with the shift state; nothing for keys that raise no
+// KeyPress (function keys, arrows, Alt combinations).
+std::optional<int> KeyAscii(int keyCode, int shift);
+
+}  // namespace session

@@ -1,0 +1,165 @@
+#include "fake_screen.h"
+
+#include <fmt/format.h>
+
+#include <stdexcept>
+
+#include "platform/convert.h"
+#include "platform/runtime_error.h"
+
+namespace session::testing {
+
+FakeScreen::FakeScreen(host_services::HostServices services) : services_(std::move(services)) {
+    frame3.Enabled = false;
+    txtInFrame.Container = &frame3;
+    txtLocked.Locked = true;
+    lblTitle.Caption = "Dispatch";
+    cmdSave.Caption = "&Save";
+
+    lstSO.CheckBoxes = true;
+    auto& first = lstSO.Add("Acme Traders");
+    first.SetSubItem(1, "SC1");
+    auto& second = lstSO.Add("");
+    second.SetSubItem(1, "SC2");
+    lstUOM.AddItem("Each");
+    lstUOM.AddItem("Box");
+    cboType.AddItem("Invoice");
+    cboType.AddItem("Note");
+
+    grid.SetColHeading(1, "Code");
+    grid.SetColHeading(2, "Name");
+    grid.SetGridRows(2);
+    grid.SetCell(1, 1, "A100");
+    grid.SetCell(1, 2, "Soap");
+    grid.SetCell(2, 1, "B200");
+    grid.SetCell(2, 7, "hidden");
+
+    WireEvents();
+    AddRoutines();
+}
+
+void FakeScreen::WireEvents() {
+    txtCustomer.GotFocus.Connect([this] { Log("txtCustomer.GotFocus"); });
+    txtCustomer.LostFocus.Connect([this] { Log("txtCustomer.LostFocus"); });
+    txtCustomer.Change.Connect([this] { Log("txtCustomer.Change " + txtCustomer.Text()); });
+    txtCustomer.KeyDown.Connect([this](int& code, int shift) {
+        Log(fmt::format("txtCustomer.KeyDown {} {}", code, shift));
+        if (code == swallowInKeyDown) code = 0;
+    });
+    txtCustomer.KeyPress.Connect([this](int& ascii) { Log(fmt::format("txtCustomer.KeyPress {}", ascii)); });
+    txtCustomer.KeyUp.Connect([this](int& code, int shift) { Log(fmt::format("txtCustomer.KeyUp {} {}", code, shift)); });
+    cmdSave.GotFocus.Connect([this] { Log("cmdSave.GotFocus"); });
+    cmdSave.Click.Connect([this] { Log("cmdSave.Click"); });
+    lblTitle.Click.Connect([this] { Log("lblTitle.Click"); });
+    lstSO.ItemCheck.Connect([this](int row) { Log(fmt::format("lstSO.ItemCheck {} {}", row, lstSO.Item(row).Checked)); });
+    lstSO.ItemClick.Connect([this](int row) { Log(fmt::format("lstSO.ItemClick {}", row)); });
+    lstUOM.Click.Connect([this] { Log(fmt::format("lstUOM.Click {}", lstUOM.ListIndex())); });
+    lstUOM.DblClick.Connect([this] { Log("lstUOM.DblClick"); });
+    cboType.Click.Connect([this] { Log("cboType.Click " + cboType.Text()); });
+    dtFromDate.Change.Connect([this] { Log("dtFromDate.Change " + platform::DateToIso(dtFromDate.Value)); });
+    grid.KeyCode.Connect([this](int& code, int shift) { Log(fmt::format("grid.KeyCode {} {}", code, shift)); });
+    grid.Change.Connect([this](int col) { Log(fmt::format("grid.Change {} {}", col, grid.EditText())); });
+    grid.RowColChange.Connect([this](int row, int col) { Log(fmt::format("grid.RowColChange {} {}", row, col)); });
+    grid.AfterColUpdate.Connect([this](int row, int col, bool&) { Log(fmt::format("grid.AfterColUpdate {} {}", row, col)); });
+}
+
+void FakeScreen::AddRoutines() {
+    routines_.Add("Add", [](screen::RoutineCall& call) {
+        double sum = 0;
+        for (const auto& argument : call.arguments) sum += platform::Val(argument);
+        call.result = platform::Value(sum);
+    });
+    routines_.Add("Ask", [this](screen::RoutineCall& call) {
+        call.result = platform::Value(services_.messages.AskMessage("Save now?", 4));
+    });
+    routines_.Add("SplitFirst", [](screen::RoutineCall& call) {
+        const std::string& text = call.arguments.at(0);
+        auto comma = text.find(',');
+        call.outs.emplace_back("szFirst", platform::Value(text.substr(0, comma)));
+        call.outs.emplace_back("szRest", platform::Value(comma == std::string::npos ? "" : text.substr(comma + 1)));
+    });
+    routines_.Add("Report", [this](screen::RoutineCall&) {
+        services_.global.ReportError("Dispatch: Report - Invalid procedure call or argument", 5);
+        services_.global.ShowStatus("Select an existing Customer.", 1);
+    });
+    routines_.Add("Query", [this](screen::RoutineCall& call) {
+        auto rows = services_.global.GetConnection().Execute(call.arguments.at(0));
+        call.result = rows->Fields(0);
+    });
+    routines_.Add("OCGEnabled", [this](screen::RoutineCall& call) {
+        call.result = platform::Value(services_.global.GetOCGEnabled());
+    });
+    routines_.Add("Broken", [](screen::RoutineCall&) { throw platform::RuntimeError(platform::err::ObjectNotSet); });
+    routines_.Add("Strict", [](screen::RoutineCall& call) {
+        if (call.arguments.size() != 1) throw std::invalid_argument("takes one argument");
+        if (call.arguments[0] == "late") throw platform::RuntimeError(450, "Wrong number of arguments");
+    });
+}
+
+void FakeScreen::MoveFocus(platform::Control& to) {
+    if (active_ != nullptr) active_->LostFocus.Raise();
+    active_ = &to;
+    to.GotFocus.Raise();
+    FocusMoved.Raise(to);
+}
+
+platform::Control* FakeScreen::FindControl(const std::string& name, int index) {
+    for (platform::Control* control : std::initializer_list<platform::Control*>{
+             &frame3, &txtCustomer, &txtInFrame, &txtLocked, &cmdSave, &cmdClose1, &lblTitle, &lstSO, &lstUOM,
+             &cboType, &dtFromDate, &grid})
+        if (control->Name() == name && control->Index() == index) return control;
+    return nullptr;
+}
+
+std::optional<std::string> FakeScreen::FieldText(const std::string& name) const {
+    if (name == "szDocNumbers") return szDocNumbers;
+    return std::nullopt;
+}
+
+void FakeScreen::Form_KeyDown(int& KeyCode, int Shift) {
+    Log(fmt::format("Form_KeyDown {} {}", KeyCode, Shift));
+    if (KeyCode == swallowInPreview) KeyCode = 0;
+}
+
+bool FakeScreen::Close() {
+    Log("Close");
+    if (txtCustomer.Text() == "stay") return true;
+    loaded_ = false;
+    return false;
+}
+
+namespace {
+
+class FakeOpener : public ScreenOpener {
+public:
+    explicit FakeOpener(FakeOpenings& openings) : openings_(openings) {}
+
+    screen::ScreenForm* OpenDispatch(host::PlainHost& host, platform::Date serverDate, long mode,
+                                     platform::Date alertDate) override {
+        openings_.mode = mode;
+        openings_.serverDate = serverDate;
+        openings_.alertDate = alertDate;
+        auto screen = std::make_unique<FakeScreen>(host.Services());
+        if (openings_.arrange) openings_.arrange(*screen);
+        // As a form does while it opens: focus is set before the host can listen.
+        screen->MoveFocus(screen->txtCustomer);
+        openings_.screens.push_back(std::move(screen));
+        return openings_.screens.back().get();
+    }
+
+    screen::ScreenForm* OpenCForm(host::PlainHost&, platform::Date serverDate) override {
+        openings_.serverDate = serverDate;
+        return nullptr;
+    }
+
+private:
+    FakeOpenings& openings_;
+};
+
+}  // namespace
+
+std::unique_ptr<ScreenOpener> MakeFakeOpener(FakeOpenings& openings) {
+    return std::make_unique<FakeOpener>(openings);
+}
+
+}  // namespace session::testing

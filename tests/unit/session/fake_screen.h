@@ -1,0 +1,76 @@
+// A small screen for driving the session runner without the dispatch form: a few
+// controls of each kind, a grid, fields, routines, and a log of the events the
+// runner raised, in order.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/plain_host.h"
+#include "screen/screen_form.h"
+#include "session/screen_opener.h"
+
+namespace session::testing {
+
+class FakeScreen : public screen::ScreenForm {
+public:
+    explicit FakeScreen(host_services::HostServices services);
+
+    // ---- what the runner sees ----------------------------------------------------
+    std::string FormName() const override { return "FakeScreen"; }
+    platform::Control* ActiveControl() const override { return active_; }
+    void MoveFocus(platform::Control& to) override;
+    platform::Control* FindControl(const std::string& name, int index) override;
+    platform::DTFlex* Grid() override { return &grid; }
+    std::optional<std::string> FieldText(const std::string& name) const override;
+    const screen::RoutineTable& Routines() const override { return routines_; }
+    bool KeyPreview() const override { return true; }
+    void Form_KeyDown(int& KeyCode, int Shift) override;
+    bool Close() override;
+    bool IsLoaded() const override { return loaded_; }
+
+    // ---- the controls --------------------------------------------------------------
+    platform::Frame frame3{*this, "Frame3"};
+    platform::TextBox txtCustomer{*this, "txtCustomer"};
+    platform::TextBox txtInFrame{*this, "txtInFrame"};
+    platform::TextBox txtLocked{*this, "txtLocked"};
+    platform::CommandButton cmdSave{*this, "cmdSave"};
+    platform::CommandButton cmdClose1{*this, "cmdClose", 1};
+    platform::Label lblTitle{*this, "lblTitle"};
+    platform::ListView lstSO{*this, "lstSO"};
+    platform::ListBox lstUOM{*this, "lstUOM"};
+    platform::ComboBox cboType{*this, "cboType"};
+    platform::DatePicker dtFromDate{*this, "dtFromDate"};
+    platform::DTFlex grid{*this, "DTFlexDispatch", 8};
+
+    // ---- what the test arranges and reads ----------------------------------------
+    std::vector<std::string> events;
+    int swallowInPreview = -1;   // the preview swallows this key code
+    int swallowInKeyDown = -1;   // txtCustomer's KeyDown swallows this key code
+    std::string szDocNumbers = "SC1,SC2";
+
+private:
+    void Log(std::string event) { events.push_back(std::move(event)); }
+    void WireEvents();
+    void AddRoutines();
+
+    host_services::HostServices services_;
+    platform::Control* active_ = nullptr;
+    screen::RoutineTable routines_;
+    bool loaded_ = true;
+};
+
+// Opens a FakeScreen for every `open`, and remembers what it was given.
+struct FakeOpenings {
+    std::vector<std::unique_ptr<FakeScreen>> screens;
+    long mode = 0;
+    platform::Date serverDate, alertDate;
+    std::function<void(FakeScreen&)> arrange;  // run on each new screen before it opens
+    FakeScreen* Last() { return screens.empty() ? nullptr : screens.back().get(); }
+};
+
+std::unique_ptr<ScreenOpener> MakeFakeOpener(FakeOpenings& openings);
+
+}  // namespace session::testing

@@ -61,9 +61,10 @@ std::optional<ItemLadder> UnitsOfMeasure::Ladder(const std::string& itemCode) {
 }
 
 double UnitsOfMeasure::RateOf(const std::string& itemCode, long uom) {
-    if (uom == 0) return 0;
     auto ladder = Ladder(itemCode);
     if (!ladder) return 0;
+    // Unit 0 is the multi-unit entry: its expression is counted in base units.
+    if (uom == 0) return 1;
     for (int i = 1; i <= 3; ++i)
         if (ladder->level[i].uom == uom) return ladder->level[i].rate;
     return 0;

@@ -7,6 +7,7 @@
 // RowColChange, SetCell raises nothing.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -49,6 +50,10 @@ public:
     // ends (as CommitEdit) and the list is hidden.
     bool ChooseFromList(const std::string& text, bool keepListOpen = false);
     void AttachColumnList(int col, Control& list);
+    // The cell editor as a text box, for a type-ahead list to follow. What is written
+    // into it lands in the editor of the current cell (opening it when none is
+    // open), as the user's choice from the list; Enter then ends the edit.
+    TextBox& EditorBox();
 
     // ---- column settings -----------------------------------------------------
     void SetColHeading(int col, std::string heading);  // row 0 of the column
@@ -151,6 +156,9 @@ private:
     // whether a handler moved on meanwhile.
     unsigned cellStamp_ = 0;
     Control* droppedList_ = nullptr;  // the attached list the grid dropped down
+    std::unique_ptr<TextBox> editorBox_;  // made on first use (EditorBox)
+    bool takingEditorBoxText_ = false;
+    void TakeEditorBoxText();
 };
 
 }  // namespace platform

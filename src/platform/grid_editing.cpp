@@ -129,6 +129,31 @@ void DTFlex::HideDroppedList() {
     droppedList_ = nullptr;
 }
 
+TextBox& DTFlex::EditorBox() {
+    if (!editorBox_) {
+        editorBox_ = std::make_unique<TextBox>(scope_, Name() + "Editor");
+        editorBox_->Visible = false;
+        editorBox_->Change.Connect([this] { TakeEditorBoxText(); });
+    }
+    return *editorBox_;
+}
+
+// The box only carries a text into the editor: it is emptied again at once, so that
+// the next write, even of the same text, is seen as a change.
+void DTFlex::TakeEditorBoxText() {
+    if (takingEditorBoxText_) return;
+    takingEditorBoxText_ = true;
+    const std::string text = editorBox_->Text();
+    editorBox_->SetText({});
+    takingEditorBoxText_ = false;
+    if (!HasCurrentCell()) return;
+    if (editing_) {
+        editText_ = text;
+    } else {
+        OpenEditor(text);
+    }
+}
+
 // A grid that lets the user add rows keeps a blank row at its end to type into.
 void DTFlex::AddEntryRowIfNeeded() {
     if (!AllowAddRows) return;

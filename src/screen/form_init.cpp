@@ -102,6 +102,7 @@ void Zuro_frmDispatch_Dispatch::InitForm(platform::Date DServerDate, long nModeA
                 }
                 if (nMode == mode::View || nMode == mode::Amendment) objLink->SetHelpContextID(63);
                 if (nMode == mode::Amendment) cmdContinue.Caption = messages.GetLabel("&Amend");
+                if (nMode == mode::FromPurchaseOrder || nMode == mode::Amendment) InitAutolist();
                 InitCustAutolists();
                 SetFrame(1);
                 ShowAllCustomers();
@@ -120,6 +121,7 @@ void Zuro_frmDispatch_Dispatch::InitForm(platform::Date DServerDate, long nModeA
                 TitleFrame(titles.frameTitle);
                 Frame2.Caption = messages.GetLabel(titles.listCaption);
                 SetFrame(1);
+                InitAutolist();
                 InitCustAutolists();
                 ShowAllCustomers();
                 global.ShowStatus("Loading ...", 0);
@@ -129,6 +131,7 @@ void Zuro_frmDispatch_Dispatch::InitForm(platform::Date DServerDate, long nModeA
             case mode::NewDispatch:
                 TitleFrame(titles.frameTitle);
                 SetFrame(0);
+                InitAutolist();
                 InitCustAutolists();
                 RequireObject(objCustomerList).SetEnabled(true);
                 txtCustomer.SetText("");

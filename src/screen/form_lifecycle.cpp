@@ -18,6 +18,7 @@ void Zuro_frmDispatch_Dispatch::Form_Load() {
                               global.GetGridBodyFont());
         global.ApplyGridStyle(DTFlexDispatch);
         ClearMemoFields();
+        LoadListWidths(global.GetItemListScreenNumber(), FrameAvailable, lstAvailable);
     });
 }
 

@@ -7,6 +7,10 @@ namespace screen {
 
 void Zuro_frmDispatch_Dispatch::WireEvents() {
     cmdMemo.Click.Connect([this] { cmdMemo_Click(); });
+    WirePartyEvents();
+    WireItemLookupAndUnits();
+    WireItemEntryAndBatches();
+    WireGridKeysAndRows();
 
     // Pages and the header's keys.
     txtref.KeyDown.Connect([this](int& key, int shift) { txtref_KeyDown(key, shift); });

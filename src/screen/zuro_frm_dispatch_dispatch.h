@@ -215,14 +215,129 @@ public:
 
     // ---- item look-up, row serials, units of measure ----------------------------------
     // (look-up, serials and units: declarations of these routines and fields go here)
+    // The item list and its two companions, which are made with it and only owned.
+    std::unique_ptr<host_services::AutoList> objItemListSpare1, objItemListSpare2;
+    long nDispatchID = 0;              // the dispatch being amended
+    std::int16_t nSerialCounter = 0;   // the last row serial given out
+    void InitAutolist();
+    void SetAutolistOption(long nCol);
+    void Add_Unique_Serial(long& nRow, std::int16_t& iResetAll, std::int16_t& bToSet);
+    long getRowNumber(long nSerial);
+    // 1 removes the listed free rows, 2 sums the rows' base quantities, 4 lists the
+    // rows' numbers; Empty for an empty list.
+    platform::Value DoRowOperation(long lOperation, const std::string& szRows, platform::DTFlex& DTFlexProducts);
+    void LoadItemUOM(const std::string& szItemCode, long nRow);
+    void ApplyUOMChange(bool bFocusGrid);
+    void CycleUOM();
+    void ValidateUOM(long nRows, bool& bValid);
+    void CheckForMultipleUOM(long nRow);
+    void lstUOM_Click();
+    void lstUOM_DblClick();
+    void lstUOM_KeyDown(int& KeyCode, int Shift);
+    void lstUOM_GotFocus();
+    void lstUOM_LostFocus();
+    void CopyGridItems(platform::DTFlex& grid);
+    void PasteGridItems(platform::DTFlex& grid);
+    long FirstBlankGridRow(platform::DTFlex& grid);
+    long FindQuantityColumn(platform::DTFlex& grid, long nRow);
+    std::string GetGridQuantity(platform::DTFlex& grid, long nRow);
+    void WireItemLookupAndUnits();
     // ---- end of item look-up, row serials, units of measure ---------------------------
 
     // ---- item entry, pricing and batches --------------------------------------------------
     // (entry, pricing and batches: declarations of these routines and fields go here)
+    double dUOMRate = 0;        // base units in one unit of the row in hand
+    long nBatchTrack = 0;       // colBatchTrack of the current row
+    long nPriceOption = 0;      // colPriceOption of the current row
+    bool bQtySyntaxError = false;
+    bool bQtyRefused = false;   // refused for stock, or the row carries an ignored free item
+    bool bNoStockRow = false;   // the row's item has no stock: a zero quantity passes
+    bool bUOMTyped = false;     // the user changed the unit cell by hand
+    std::string szGroupID;
+    void DTFlexDispatch_AfterColUpdate(int nRow, int nCol, bool& bCancel);
+    void GetItemPrice(const std::string& szItemCode, long nRow);
+    void GetItemProperty(const std::string& szItemCode, long nProperty, long& nValue);
+    void ClearItemDetails(long nRow);
+    void ComputeDispatchValue(long nLastRow, double& dValue);
+    double GetTotalBookStock(const std::string& szItemCode);
+
+    std::string szBatchItemCode;  // the item whose stock lstAvailable shows
+    int objBatchEntry = 0;        // lstAvailable's selected entry, by index; 0 none
+    double dStoredQty = 0;        // colStoredQty of the current row
+    std::string szExpiryText, szPKDText;
+    std::vector<double> vListWidths;
+    void DispatchBatchDetails(const std::string& szItemCode, const std::string& szBatch, const std::string& szPrice,
+                              long nBatchTrack, long nPriceOption, long nStoredRow, const std::string& szStoredBatch);
+    void SetGridMode(platform::ListView& list, long nPriceOption, long nBatchTrack, const std::string& szItemCode);
+    void LoadListWidths(long nScreen, platform::Frame& frame, platform::ListView& list);
+    long GetItemBatchFlags(const std::string& szItemCode, long& nVirtualBatches);
+    double LoadBatchStock(platform::ListView& list, const std::string& szItemCode, long nBatchTrack, long nPriceOption,
+                          long nCustomerCategory, const std::string& szProcedure, long nVirtualBatches, long nTrackPKD,
+                          double dRate, long nDetail);
+    platform::RecordsetPtr OpenBatchStock(const std::string& szItemCode, long nBatchTrack, long nPriceOption,
+                                          long nCustomerCategory, const std::string& szProcedure, long nVirtualBatches);
+    void AddBatchInfo(const std::string& szBatch, double dQuantity, double dPrice, long nBatchCode);
+    void PreserveOriginalQty(const std::string& szOption, const std::string& szExpiry, const std::string& szPKD,
+                             double dPrice, double dQuantity);
+    void AddUnBatchQty(const std::string& szBatchOption, double dPrice, double dQuantity, long nFree);
+    void AddUnBatchInfo(double dQuantity, double dPrice, const std::string& szExpiry, const std::string& szPKD,
+                        const std::string& szFreeText);
+    // The row takes batch, stock and price from objBatchEntry (the key handler's step).
+    void TakeFromBatchEntry(long nRow, long nCol);
+    // "Batch: {0}, " and "Total: {0}" on the status line for the row in hand.
+    void ShowBatchStockStatus(long nRow, long nCol);
+    bool bItemEntryWired = false;  // WireItemEntryAndBatches has run
+    void WireItemEntryAndBatches();
     // ---- end of item entry, pricing and batches ----------------------------------------
 
     // ---- scheme arithmetic, grid keyboard and rows -------------------------------------
     // (schemes and keyboard: declarations of these routines and fields go here)
+    // Scheme arithmetic and look-ups shared by every scheme generation.
+    double getQuotient(double nDividend, double nDivider);
+    double GetApplicableQuantity(double dQuantity, double dAmount, long nSlabUnit, double dOnward);
+    double GetActualQuantity(long nRow, int nSlabUnit, double dOnward, platform::DTFlex& DTFlexProducts);
+    double GetBaseUOMConv(const std::string& szItemCode, int nUnit);
+    long chkFreeItemFound(long nSchID, long nSlab);
+    std::string AddStringwithCheck(const std::string& szString, const std::string& szAddString,
+                                   const std::string& szDelimit);
+    void CheckScheme(long nRow, bool isRowDeleted, platform::DTFlex& DTFlexProducts);
+    long GetSaleID(const std::string& szItemCode);
+    void ComputeAmount(long& nRow, platform::DTFlex* DTFlexProducts);  // kept for the interface only
+    void ComputeTotal(long nRow, bool bSkip);
+    static double ComputeDiscount(double dValue1, double dValue2, double dValue3);
+    double GetTotalQtyAmountForItem(const std::string& szItemCode);
+    // "<scheme>|<slab>|0|0" of colMultiSchemeDetail and colMultiSpecialCatSchemeDetail;
+    // the second narrows the scheme to 16 bits (error 6 beyond).
+    static std::string MultiSchemeDetail(long nSchemeID, long nSlabID);
+    static std::string MultiSpecialCatSchemeDetail(long nSchemeID, long nSlabID);
+    // A free row for a primary row at the bottom of the grid; its serial and a comma
+    // go onto szNewSerials. Answers the free row.
+    long MakeSchemeFreeRow(long nPrimaryRow, long nSchemeID, long nSlabID, const std::string& szFreeCode, double fFree,
+                           std::string& szNewSerials);
+
+    // The document's scheme memory: per item (0 code, 1 base quantity, 2 amount,
+    // 3 serials, 4 rows) at the last scheme run and now, and for whom and when.
+    using SkuArray = std::vector<std::vector<platform::Value>>;
+    SkuArray arrPrevSKU, arrCurrSKU;
+    long nPrevSKUCount = 0, nCurrSKUCount = 0, nPrimaryRowCount = 0;
+    std::string szSchemeCustomer;
+    platform::Date dtSchemeDate{};
+    bool bSplCatRefused = false, bSplCatFreeMissing = false;
+    void ResetSchemeMemory();
+
+    // The grid's keys and rows.
+    bool bSchemeViewKey = false;  // true while Space in colQuantity shows the item's schemes
+    void DTFlexDispatch_KeyCode(int& KeyCode, int Shift);
+    void DTFlexDispatch_RowColChange(int nRow, int nCol);
+    void DTFlexDispatch_Change(int nCol);
+    void DTFlexDispatch_BeforeDelete(int& nRow, bool& bCancel);
+    void DTFlexDispatch_AfterDelete();
+    void DTFlexDispatch_AtLastRow();
+    void DTFlexDispatch_AtFirstRow();
+    void GetMaxSchemeGridID(long& nNext);
+    void AdjustRow(long nRemoved);
+    std::string GetCustomerForScheme();
+    void WireGridKeysAndRows();
     // ---- end of scheme arithmetic, grid keyboard and rows ------------------------------
 
     // ---- call-backs of the host's lists -----------------------------------------

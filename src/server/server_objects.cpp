@@ -2,7 +2,10 @@
 
 #include "server/procedure_registry.h"
 #include "server/procedures/header_procedures.h"
+#include "server/procedures/items_procedures.h"
 #include "server/procedures/parties_procedures.h"
+#include "server/procedures/schemes_procedures.h"
+#include "server/procedures/stock_procedures.h"
 
 namespace server {
 
@@ -10,6 +13,9 @@ void RegisterServerObjects(ProcedureRegistry& registry) {
     // One call for each group of server objects, in the order they were added.
     RegisterPartyProcedures(registry);
     RegisterHeaderProcedures(registry);
+    RegisterSchemeProcedures(registry);
+    RegisterItemProcedures(registry);
+    RegisterStockProcedures(registry);
 }
 
 }  // namespace server

@@ -45,7 +45,7 @@ TEST_F(UnitsTest, RatesFollowTheLadderOfEachItem) {
     EXPECT_EQ(global().ConvertToBaseUOM("TWO", 3), 0);
     EXPECT_EQ(global().ConvertToBaseUOM("THREE", 3), 144);
     EXPECT_EQ(global().ConvertToBaseUOM("three", 2), 12);  // codes match without regard to case
-    EXPECT_EQ(global().ConvertToBaseUOM("THREE", 0), 0);
+    EXPECT_EQ(global().ConvertToBaseUOM("THREE", 0), 1);  // the multi-unit entry counts in base units
     EXPECT_EQ(global().ConvertToBaseUOM("NOSUCH", 1), 0);
     EXPECT_EQ(global().ConvertToBaseUOM("", 1), 0);
     EXPECT_EQ(global().ConvertToBaseUOM("KID'S", 1), 1);

@@ -1,0 +1,42 @@
+// The steps of DTFlexDispatch_AfterColUpdate, one object per ended edit: A the item
+// typed in column 1 or 2, B the unit of column 4, B2 the quantity of column 6, and
+// C the tail every edit ends with. A step that answers false has refused (or ended)
+// the edit, and the handler stops there.
+#pragma once
+
+#include "screen/zuro_frm_dispatch_dispatch.h"
+
+namespace grid {
+
+class ItemEntryEdit {
+public:
+    ItemEntryEdit(screen::Zuro_frmDispatch_Dispatch& form, host_services::HostServices& host, int nRow, bool& bCancel)
+        : form_(form), host_(host), grid_(form.DTFlexDispatch), nRow_(nRow), bCancel_(bCancel) {}
+
+    bool ItemEntered(int nCol);      // A
+    bool UnitChosen();               // B
+    bool QuantityEntered();          // B2
+    void CommonTail(int nCol);       // C
+
+private:
+    // A, step 4: the item belongs to the note's group (or to the salesman's
+    // categories); false after message 13.
+    bool ItemInDispatchGroup(const std::string& szCode);
+    // B2 steps 1 to 3: the quantity's syntax, and its size in base units.
+    bool QuantitySyntaxAccepted(double& dBaseQty);
+    // B2 step 5: a primary's free rows go when its quantity changes.
+    void DropFreeRowsOfPrimary();
+    // C step 2: the checks of a quantity; false when the handler ends.
+    bool QuantityChecksPassed();
+    bool QuantityWithinStock(const std::string& szCode, const std::string& szQuantity);
+    double SelectedEntryQuantity() const;  // sub-item 3 of the stock list's selection
+    void Refuse(const std::string& text);
+
+    screen::Zuro_frmDispatch_Dispatch& form_;
+    host_services::HostServices& host_;
+    platform::DTFlex& grid_;
+    int nRow_;
+    bool& bCancel_;
+};
+
+}  // namespace grid

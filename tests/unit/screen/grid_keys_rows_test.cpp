@@ -1,0 +1,225 @@
+// The grid's keys and rows: free rows that cannot be typed in, deleting a line with
+// its free rows, the links that close up behind it, and the grid's two ends.
+#include <vector>
+
+#include "grid/row_model/grid_columns.h"
+#include "screen_fixture.h"
+
+namespace screen_test {
+namespace {
+
+using namespace grid;
+
+class GridKeysRows : public ScreenTest {
+protected:
+    screen::Zuro_frmDispatch_Dispatch& OpenNote() {
+        Open(2);
+        // Until the form wires the grid itself.
+        if (!form->Routines().Find("GetMaxSchemeGridID")) form->WireGridKeysAndRows();
+        return *form;
+    }
+
+    struct Line {
+        std::string code, serial, itemCheck;
+        bool free = false;
+    };
+    // The lines from row 1 down, then the blank entry row.
+    void Lines(const std::vector<Line>& lines) {
+        auto& grid = form->DTFlexDispatch;
+        grid.SetGridRows(static_cast<int>(lines.size()) + 1);
+        int row = 1;
+        for (const auto& line : lines) {
+            grid.SetCell(row, colItemCode, line.code);
+            grid.SetCell(row, colItemName, line.code + " name");
+            grid.SetCell(row, colQuantity, "5");
+            grid.SetCell(row, colSerialNo, line.serial);
+            grid.SetCell(row, colItemCheck, line.itemCheck);
+            grid.SetCell(row, colFreeItem, line.free ? "1" : "0");
+            grid.SetCell(row, colFreeRow, line.free ? "1" : "0");
+            ++row;
+        }
+    }
+    // "code:itemCheck" of each row but the blank one, joined with blanks.
+    std::string Rows() const {
+        const auto& grid = form->DTFlexDispatch;
+        std::string rows;
+        for (int row = 1; row <= grid.GridRows(); ++row) {
+            if (grid.IsBlankRow(row)) continue;
+            rows += (rows.empty() ? "" : " ") + grid.GetCell(row, colItemCode) + ":" + grid.GetCell(row, colItemCheck);
+        }
+        return rows;
+    }
+};
+
+TEST_F(GridKeysRows, TheNextLinkIsOneAboveTheHighestAndTheGapClosesFromAboveOnly) {
+    OpenNote();
+    Lines({{"A", "1", "3"}, {"B", "2", ""}, {"C", "3", "5"}, {"D", "4", "4"}});
+    long next = 0;
+    form->GetMaxSchemeGridID(next);
+    EXPECT_EQ(next, 6);
+
+    form->AdjustRow(4);
+    // 5 is above 4 and comes down; 4 itself and everything below stay.
+    EXPECT_EQ(Rows(), "A:3 B: C:4 D:4");
+    form->GetMaxSchemeGridID(next);
+    EXPECT_EQ(next, 5);
+}
+
+TEST_F(GridKeysRows, ALinkListIsReadByTheNumberConversion) {
+    OpenNote();
+    // A SKU free row serving primaries 1 and 2: the number conversion reads "1,2" with
+    // its comma as a thousands separator, 12, and the links are taken as such.
+    Lines({{"A", "1", "3"}, {"SF", "3", "1,2", true}});
+    long next = 0;
+    form->GetMaxSchemeGridID(next);
+    EXPECT_EQ(next, 13);
+    form->AdjustRow(3);
+    EXPECT_EQ(Rows(), "A:3 SF:11");
+}
+
+TEST_F(GridKeysRows, AnEmptyGridGivesTheFirstLink) {
+    OpenNote();
+    Lines({});
+    long next = 99;
+    form->GetMaxSchemeGridID(next);
+    EXPECT_EQ(next, 1);
+}
+
+TEST_F(GridKeysRows, AFreeRowTakesOnlyTheMovingKeys) {
+    auto& f = OpenNote();
+    Lines({{"FD001", "1", "2"}, {"FD001", "2", "1", true}});
+    auto& grid = f.DTFlexDispatch;
+    grid.UserGoto(2, colItemCode);
+    grid.UserType("X");
+    EXPECT_FALSE(grid.Editing());
+    EXPECT_EQ(grid.GetCell(2, colItemCode), "FD001");
+
+    for (int key : {8, 46, 32, 191}) {  // Backspace, Delete, Space, slash
+        int code = key;
+        f.DTFlexDispatch_KeyCode(code, 0);
+        EXPECT_EQ(code, 0) << "key " << key;
+    }
+    grid.UserKey(38);  // Up still moves
+    EXPECT_EQ(grid.GridRow(), 1);
+
+    // The same key on the primary row reaches the grid.
+    int code = 'X';
+    f.DTFlexDispatch_KeyCode(code, 0);
+    EXPECT_EQ(code, 'X');
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(GridKeysRows, SlashInTheQuantityNeverLandsInIt) {
+    auto& f = OpenNote();
+    Lines({{"FD001", "1", ""}});
+    auto& grid = f.DTFlexDispatch;
+    grid.SetCell(1, colPrevQty, "5");
+    grid.UserGoto(1, colQuantity);
+    for (int key : {111, 191}) {
+        int code = key;
+        f.DTFlexDispatch_KeyCode(code, 0);
+        EXPECT_EQ(code, 0);
+    }
+    EXPECT_EQ(grid.GetCell(1, colPrevQty), "");
+    EXPECT_EQ(grid.GetCell(1, colQuantity).find('/'), std::string::npos);
+}
+
+TEST_F(GridKeysRows, DeletingAPrimaryTakesItsFreeRowsAndClosesTheLinks) {
+    settings.Set("GetOCGEnabled", "true");
+    OpenNote();
+    // A (serial 1) earned free row 3; B (serial 2) earned free row 4.
+    Lines({{"A", "1", "3"}, {"B", "2", "4"}, {"AF", "3", "1", true}, {"BF", "4", "2", true}});
+    form->DTFlexDispatch.UserDeleteRow(1);
+    // A's free row went with it; the links above A's own (3) came down by one.
+    EXPECT_EQ(Rows(), "B:3 BF:2");
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(GridKeysRows, AFreeRowAboveItsPrimaryDoesNotMisdirectTheDeletion) {
+    settings.Set("GetOCGEnabled", "true");
+    OpenNote();
+    Lines({{"X", "1", ""}, {"AF", "3", "2", true}, {"A", "2", "3"}, {"Y", "4", ""}});
+    form->DTFlexDispatch.UserDeleteRow(3);
+    EXPECT_EQ(Rows(), "X: Y:");
+}
+
+TEST_F(GridKeysRows, DeletingAFreeRowLeavesThePrimaries) {
+    settings.Set("GetOCGEnabled", "true");
+    OpenNote();
+    Lines({{"A", "1", "2"}, {"AF", "2", "1", true}});
+    form->DTFlexDispatch.SetCell(1, colPrevQty, "5");
+    form->DTFlexDispatch.UserDeleteRow(2);
+    EXPECT_EQ(Rows(), "A:2");
+    // The free row's link named row 1, and its previous quantity is forgotten.
+    EXPECT_EQ(form->DTFlexDispatch.GetCell(1, colPrevQty), "");
+}
+
+TEST_F(GridKeysRows, WithoutOtherGroupFreeItemsTheSchemeUndoRemovesTheFreeRows) {
+    settings.Set("GetOCGEnabled", "false");
+    OpenNote();
+    Lines({{"A", "1", "3"}, {"B", "2", "4"}, {"AF", "3", "1", true}, {"BF", "4", "2", true}});
+    form->DTFlexDispatch.UserDeleteRow(1);
+    // No closing up of links here: B keeps 4.
+    EXPECT_EQ(Rows(), "B:4 BF:2");
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(GridKeysRows, CheckSchemeGathersTheSpecialCategoryAndOwnFreeRows) {
+    OpenNote();
+    Lines({{"A", "1", "4"}, {"B", "2", ""}, {"SF", "3", "1,2", true}, {"AF", "4", "1", true}});
+    auto& grid = form->DTFlexDispatch;
+    grid.SetCell(1, colSplCategoryScheme, "1");
+    grid.SetCell(1, colSplCatSerial, "3,");
+    // Kept row: only the special category free row goes, its own link stays.
+    form->CheckScheme(1, false, grid);
+    EXPECT_EQ(Rows(), "A:4 B: AF:1");
+    EXPECT_EQ(grid.GetCell(1, colSplCatSerial), "");
+
+    form->CheckScheme(1, true, grid);
+    EXPECT_EQ(Rows(), "A: B:");
+    form->CheckScheme(0, true, grid);
+    form->CheckScheme(99, true, grid);
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(GridKeysRows, TheLastRowDeletedForgetsTheSchemeRuns) {
+    auto& f = OpenNote();
+    Lines({{"A", "1", ""}});
+    f.arrPrevSKU.push_back({platform::Value("A"), platform::Value(5.0), platform::Value(0.0), platform::Value(1), platform::Value(1)});
+    f.nPrevSKUCount = 1;
+    f.nPrimaryRowCount = 1;
+    f.bSplCatRefused = true;
+    f.txtCustomer.Tag = "C003";
+    f.DTFlexDispatch.UserDeleteRow(1);
+    ASSERT_EQ(f.DTFlexDispatch.GridRows(), 1);
+    EXPECT_TRUE(f.arrPrevSKU.empty());
+    EXPECT_EQ(f.nPrevSKUCount, 0);
+    EXPECT_EQ(f.nPrimaryRowCount, 0);
+    EXPECT_FALSE(f.bSplCatRefused);
+    EXPECT_EQ(f.szSchemeCustomer, "C003");
+}
+
+TEST_F(GridKeysRows, PastTheLastRowWithNothingEnteredIsRefused) {
+    auto& f = OpenNote();
+    Lines({});
+    f.DTFlexDispatch_AtLastRow();
+    EXPECT_EQ(LastStatus(), "No items selected, cannot proceed, click close to quit");
+
+    Lines({{"A", "1", ""}});
+    f.cmdSave.Enabled = true;
+    f.cmdSave.Visible = true;
+    f.DTFlexDispatch_AtLastRow();
+    EXPECT_EQ(f.ActiveControl(), &f.cmdSave);
+}
+
+TEST_F(GridKeysRows, TheSchemeCustomerComesFromTheLabelOnlyForAConfirmation) {
+    auto& f = OpenNote();
+    f.txtCustomer.Tag = "C001";
+    f.lblCustomerId.Caption = "C009";
+    EXPECT_EQ(f.GetCustomerForScheme(), "C001");
+    f.nMode = 1;
+    EXPECT_EQ(f.GetCustomerForScheme(), "C009");
+}
+
+}  // namespace
+}  // namespace screen_test

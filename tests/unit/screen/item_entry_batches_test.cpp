@@ -1,0 +1,151 @@
+// The stock list of a line: what the stock procedures offer, how the list shows it,
+// and what the line takes from the entry selected.
+#include "item_entry_fixture.h"
+
+namespace screen_test {
+namespace {
+
+class BatchList : public ItemEntryTest {
+protected:
+    // The stock procedure's rows for an item, fields 0, 2, 3 and 5 of each.
+    std::string BookStock(const std::string& code, long track, long priceOption, long category) {
+        using platform::adtype::Integer;
+        auto rs = database->RunProcedure("sp_get_bookstock", {{platform::Value(code), platform::adtype::VarChar},
+                                                               {platform::Value(track), Integer},
+                                                               {platform::Value(priceOption), Integer},
+                                                               {platform::Value(category), Integer},
+                                                               {platform::Value(0), Integer}});
+        std::string rows;
+        for (; !rs->Eof(); rs->MoveNext()) {
+            if (!rows.empty()) rows += ";";
+            for (int field : {0, 2, 3, 5})
+                rows += platform::ToText(rs->Fields(field)) + (field == 5 ? "" : "|");
+        }
+        return rows;
+    }
+
+    // Marie in boxes of 24 on row 1, its stock list loaded as moving to the row does.
+    void MarieListed() {
+        OpenNote();
+        ItemLine("FD001", "2", 24);
+        form->DispatchBatchDetails("FD001", Cell(grid::colBatch), Cell(grid::colSalePrice), 1, 0, 0, "");
+    }
+};
+
+TEST_F(BatchList, TheStockProcedureOffersLiveBatchesEarliestExpiryFirst) {
+    OpenNote();
+    // MB2312 has expired; MB2401 holds saleable and free stock of one number.
+    EXPECT_EQ(BookStock("FD001", 1, 0, 2), "MB2401|2400|9|0;MB2401|480|0|1;MB2402|1200|9|0");
+    // By batch price: PCM24A stands at two prices, a stockist's here; PCM23X has expired.
+    EXPECT_EQ(BookStock("HC001", 1, 1, 1), "PCM24A|1000|18|0;PCM24A|500|19|0;PCM24B|1500|18.5|0");
+    EXPECT_EQ(BookStock("HC001", 1, 1, 4), "PCM24A|1500|0|0;PCM24B|1500|0|0") << "no trade category, no price";
+    // Without batches: one saleable and one free entry; an exhausted item has none.
+    EXPECT_EQ(BookStock("BV003", 0, 0, 1), "|1200|12|0;|240|0|1");
+    EXPECT_EQ(BookStock("FD005", 0, 0, 1), "");
+
+    EXPECT_EQ(form->GetTotalBookStock("FD001"), 3600) << "neither free nor expired stock is saleable";
+    EXPECT_EQ(form->GetTotalBookStock("FD005"), 0);
+    EXPECT_EQ(form->GetTotalBookStock("ZZ999"), 0);
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(BatchList, TheListShowsStockInTheRowsUnitAndMarksFreeStock) {
+    MarieListed();
+    EXPECT_EQ(ListEntries(), "MB2401|216.00|100|;MB2401|0.00|20|Yes;MB2402|216.00|50|");
+    const auto& first = form->lstAvailable.Item(1);
+    EXPECT_EQ(first.SubItem(2), "216.00");
+    EXPECT_EQ(first.SubItemTag(2), "216");
+    EXPECT_EQ(first.SubItem(4), Scalar("SELECT strftime('%m/%Y', PKD) FROM Batch_Products WHERE Batch_Code = 1"));
+    EXPECT_EQ(form->szBatchItemCode, "FD001");
+    EXPECT_EQ(Cell(grid::colBatchSelection), "1");
+    // The widths of screen 1; the price column only for items priced by batch.
+    const auto& headers = form->lstAvailable.ColumnHeaders;
+    EXPECT_EQ(headers[0].Width, 1100);
+    EXPECT_EQ(headers[1].Width, 900);
+    EXPECT_EQ(headers[2].Width, 0);
+    EXPECT_EQ(headers[3].Width, 1000);
+    EXPECT_EQ(headers[4].Width, 800) << "Marie carries packing dates";
+    EXPECT_EQ(headers[5].Width, 800);
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(BatchList, TheRowsBatchIsSelectedAndTheRowTakesTheEntryTheUserMovesTo) {
+    OpenNote();
+    ItemLine("FD001", "2", 24);
+    SetCell(grid::colBatch, "mb2402");
+    form->DispatchBatchDetails("FD001", Cell(grid::colBatch), Cell(grid::colSalePrice), 1, 0, 0, "");
+    EXPECT_EQ(form->lstAvailable.SelectedIndex(), 3) << "batch numbers match without regard to case";
+
+    form->nBatchTrack = 1;
+    form->lstAvailable.Select(1);
+    form->objBatchEntry = 1;
+    form->TakeFromBatchEntry(1, grid::colQuantity);
+    EXPECT_EQ(Cell(grid::colBatch), "MB2401");
+    EXPECT_EQ(Cell(grid::colAvailableQty), "2400");
+    EXPECT_EQ(Cell(grid::colFreeRow), "0");
+    EXPECT_EQ(Cell(grid::colSalePrice), "216");
+    EXPECT_EQ(Cell(grid::colOriginalPrice), "9");
+
+    form->objBatchEntry = 2;  // the free stock of the same number
+    form->TakeFromBatchEntry(1, grid::colQuantity);
+    EXPECT_EQ(Cell(grid::colBatch), "MB2401");
+    EXPECT_EQ(Cell(grid::colAvailableQty), "480");
+    EXPECT_EQ(Cell(grid::colFreeRow), "1");
+    EXPECT_EQ(Cell(grid::colSalePrice), "0");
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(BatchList, ABatchPricedItemTakesThePriceOfTheEntry) {
+    OpenNote();
+    form->nCustomerCategory = 1;
+    ItemLine("HC001", "2", 10);  // boxes of 10 strips
+    form->DispatchBatchDetails("HC001", "", "", 1, 1, 0, "");
+    EXPECT_EQ(ListEntries(), "PCM24A|180.00|100|;PCM24A|190.00|50|;PCM24B|185.00|150|");
+    EXPECT_EQ(form->lstAvailable.ColumnHeaders[2].Width, 1100);
+
+    form->nBatchTrack = 1;
+    form->objBatchEntry = 2;
+    form->TakeFromBatchEntry(1, grid::colQuantity);
+    EXPECT_EQ(Cell(grid::colBatch), "PCM24A");
+    EXPECT_EQ(Cell(grid::colSalePrice), "190");
+    EXPECT_EQ(Cell(grid::colOriginalPrice), "19");
+    EXPECT_EQ(Cell(grid::colAvailableQty), "500");
+}
+
+TEST_F(BatchList, InAnAmendmentAnExpiredBatchTheNoteHoldsComesBack) {
+    OpenNote(7);
+    ItemLine("FD001", "2", 24);
+    SetCell(grid::colBatch, "MB2312");
+    SetCell(grid::colStoredQty, "2");
+    SetCell(grid::colBatchCode, "3");
+    form->DispatchBatchDetails("FD001", "MB2312", "216", 1, 0, 1, "MB2312");
+    ASSERT_EQ(form->lstAvailable.Count(), 4);
+    const auto& added = form->lstAvailable.Item(4);
+    EXPECT_EQ(added.Text, "MB2312");
+    EXPECT_EQ(added.SubItem(3), "48") << "the stored quantity times the rate, as the list always showed it";
+    EXPECT_EQ(added.SubItem(5), "");
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(BatchList, TheStatusLineShowsTheBatchAndTheTotalInTheRowsUnit) {
+    MarieListed();
+    form->nBatchTrack = 1;
+    SetCell(grid::colBatch, "MB2401");
+    form->ShowBatchStockStatus(1, grid::colItemName);
+    EXPECT_EQ(LastStatus(), "Batch: MB2401, Total: 150");
+    form->ShowBatchStockStatus(1, grid::colQuantity);
+    EXPECT_EQ(LastStatus(), "Total: 150");
+}
+
+TEST_F(BatchList, AScreenWithoutStoredWidthsTakesTheDefault) {
+    OpenNote();
+    form->LoadListWidths(9, form->FrameAvailable, form->lstAvailable);
+    EXPECT_EQ(form->vListWidths, std::vector<double>(5, 1000));
+    EXPECT_EQ(form->lstAvailable.ColumnHeaders[3].Width, 1000);
+    form->LoadListWidths(2, form->FrameAvailable, form->lstAvailable);
+    EXPECT_EQ(form->lstAvailable.ColumnHeaders[0].Width, 1300);
+    EXPECT_EQ(form->FrameAvailable.Width, 1300 + 1000 + 1200 + 1100 + 900 + 920);
+}
+
+}  // namespace
+}  // namespace screen_test

@@ -1,0 +1,158 @@
+// The item look-up: which statement the list runs in each mode, when it opens, and a
+// pick landing in the grid's cell editor.
+#include "grid/row_model/grid_columns.h"
+#include "host/auto_list.h"
+#include "screen_fixture.h"
+
+namespace screen_test {
+namespace {
+
+using screen::Zuro_frmDispatch_Dispatch;
+
+class ItemLookup : public ScreenTest {
+protected:
+    // The salesman and category group as the party fields leave them.
+    void Party(const std::string& salesman, const std::string& salesmanID, const std::string& group,
+               const std::string& groupTag) {
+        auto& f = *form;
+        if (f.objSalesmanList) f.objSalesmanList->SetEnabled(true);
+        f.txtSalesman.SetText(salesman);
+        f.txtSalesman.Tag = salesmanID;
+        if (f.objSalesmanList) f.objSalesmanList->SetEnabled(false);
+        // A salesman list made by the write itself has popped up: the user would
+        // have closed it by choosing.
+        if (f.objSalesmanList) f.objSalesmanList->HideList();
+        f.txtCategory.SetText(group);
+        f.txtCategory.Tag = groupTag;
+    }
+    host::PlainAutoList& List() { return dynamic_cast<host::PlainAutoList&>(*form->objItemList); }
+    // The statement of the code (1) or name (2) list for the typed text.
+    std::string Statement(long nCol, const std::string& typed = "x") {
+        form->SetAutolistOption(nCol);
+        return List().QueryFor(typed);
+    }
+};
+
+TEST_F(ItemLookup, TheListFollowsTheGridsEditorAndIsLockedToItsItems) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    ASSERT_NE(f.objItemList, nullptr);
+    EXPECT_EQ(List().AttachedBox(), &f.DTFlexDispatch.EditorBox());
+    EXPECT_TRUE(List().LockedToList());
+    EXPECT_NE(f.objItemListSpare1, nullptr);
+    EXPECT_NE(f.objItemListSpare2, nullptr);
+}
+
+TEST_F(ItemLookup, OneGroupListsItsItemsByCodeOrByNameAsTyped) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    Party("Arun Kumar", "1", "Foods", "1");
+    EXPECT_EQ(Statement(1, "FD"),
+              "Select Product_Code,Product_Code From dbo.Fn_Get_Items_QAX('1') Where Product_Code Like 'FD%'");
+    EXPECT_EQ(List().Caption(), "Item Code");
+    EXPECT_EQ(Statement(2, "M"),
+              "Select Product_Code,ProductName From dbo.Fn_Get_Items_QAX('1') Where ProductName Like 'M%'");
+    EXPECT_EQ(List().Caption(), "Item Name");
+
+    // The list runs on what stands in the cell's editor.
+    f.DTFlexDispatch.UserGoto(1, grid::colItemCode);
+    f.DTFlexDispatch.UserType("FD00");
+    f.SetAutolistOption(1);
+    EXPECT_EQ(ListRows(), (std::vector<std::string>{"FD002", "FD001", "FD003", "FD004", "FD005"}));
+    f.DTFlexDispatch.UserGoto(1, grid::colItemName);
+    f.DTFlexDispatch.UserType("M");
+    f.SetAutolistOption(2);
+    EXPECT_EQ(ListRows(), std::vector<std::string>{"Marie Biscuit 100g"});  // Mango Juice is a Beverage
+}
+
+TEST_F(ItemLookup, AllCategoriesListEveryActiveGroupWhereTheModeAllowsThem) {
+    Zuro_frmDispatch_Dispatch& f = Open(3);
+    Party("Dinesh Raj", "4", f.szLblAllCategories, "1,2,3,4");
+    EXPECT_EQ(Statement(2), "Select Product_Code,ProductName From dbo.Fn_Get_Items_QAX_AllCat() Where ProductName Like 'x%'");
+    f.SetAutolistOption(2);
+    List().ShowList("F");
+    EXPECT_TRUE(ListRows().empty());  // the Festive Hamper's group is switched off
+    List().ShowList("S");
+    EXPECT_EQ(ListRows(), (std::vector<std::string>{"Salt Crackers 200g", "Shampoo Sachet", "Shelf Strip",
+                                                    "Sunflower Oil 1L"}));
+}
+
+TEST_F(ItemLookup, ANewNoteRefusesASalesmanWithAllCategories) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    Party("Dinesh Raj", "4", f.szLblAllCategories, "1,2,3,4");
+    f.DTFlexDispatch.UserGoto(1, grid::colItemCode);
+    f.SetAutolistOption(1);
+    EXPECT_TRUE(TranscriptHas("numbered 173"));
+    EXPECT_EQ(f.ActiveControl(), &f.txtSalesman);
+    EXPECT_TRUE(ListRows().empty());
+}
+
+TEST_F(ItemLookup, ACategoryMappedDSTypeSellsItsCategoriesWhateverTheGroup) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    Party("Chitra Devi", "3", "Health Care", "4");
+    EXPECT_EQ(Statement(1), "Select Product_Code,Product_Code From dbo.Fn_Get_DSTypeWiseSKU(3, 1) Where Product_Code Like 'x%'");
+    f.SetAutolistOption(1);
+    List().ShowList("");
+    EXPECT_EQ(ListRows(), (std::vector<std::string>{"HC003", "HC002", "PC001", "HC001", "PC002", "PC003"}));
+}
+
+TEST_F(ItemLookup, AnAmendmentOffersTheNotesOwnItemsToo) {
+    Zuro_frmDispatch_Dispatch& f = Open(7);
+    f.nDispatchID = 2;
+    Party("Bala Murugan", "2", "Personal Care", "3");
+    EXPECT_EQ(Statement(2),
+              "Select Product_Code,ProductName From dbo.Fn_Get_DispatchItems_QAX('3',2) Where ProductName Like 'x%'");
+    f.bAllCategories = true;
+    EXPECT_EQ(Statement(1),
+              "Select Product_Code,Product_Code From dbo.Fn_Get_DispatchItems_QAX_AllCat('2') Where Product_Code Like 'x%'");
+    f.bAllCategories = false;
+    Party("Chitra Devi", "3", "Health Care", "4");
+    EXPECT_EQ(Statement(2),
+              "Select Product_Code,ProductName From dbo.Fn_Get_DSTypeWiseSKU_Amend(3,2, 1) Where ProductName Like 'x%'");
+}
+
+TEST_F(ItemLookup, NoGroupMeansNoListButTheCellStillTakesTyping) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    Party("Arun Kumar", "1", "", "");
+    f.DTFlexDispatch.UserGoto(1, grid::colItemCode);
+    f.DTFlexDispatch.UserType("FD");
+    f.SetAutolistOption(1);
+    EXPECT_TRUE(ListRows().empty());
+    EXPECT_EQ(f.DTFlexDispatch.EditText(), "FD");
+}
+
+TEST_F(ItemLookup, AnUnknownSalesmanSendsTheUserBackToTheSalesmanBox) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    Party("Nobody", "", "Foods", "1");
+    f.SetAutolistOption(1);
+    EXPECT_TRUE(TranscriptHas("numbered 55"));
+    EXPECT_EQ(f.ActiveControl(), &f.txtSalesman);
+    EXPECT_TRUE(ListRows().empty());
+}
+
+TEST_F(ItemLookup, APickLandsInTheCellEditorAndEnterPutsItInTheCell) {
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+    Party("Arun Kumar", "1", "Foods", "1");
+    // A name is checked against the group the code column last read.
+    f.szGroupID = "1";
+    auto& grid = f.DTFlexDispatch;
+    grid.UserGoto(1, grid::colItemName);
+    grid.UserType("cre");
+    f.SetAutolistOption(2);
+    ASSERT_EQ(ListRows(), std::vector<std::string>{"Cream Biscuit 75g"});
+    Pick(1);
+    EXPECT_TRUE(ListRows().empty());
+    EXPECT_EQ(grid.EditText(), "Cream Biscuit 75g");
+    EXPECT_EQ(grid.GetCell(1, grid::colItemName), "");  // not yet: the edit is still open
+    EXPECT_TRUE(grid.CommitEdit());
+    EXPECT_EQ(grid.GetCell(1, grid::colItemName), "Cream Biscuit 75g");
+
+    // The same item picked again in the next row still lands.
+    grid.SetGridRows(2);
+    grid.UserGoto(2, grid::colItemName);
+    grid.UserType("cre");
+    f.SetAutolistOption(2);
+    Pick(1);
+    EXPECT_EQ(grid.EditText(), "Cream Biscuit 75g");
+}
+
+}  // namespace
+}  // namespace screen_test

@@ -1,0 +1,177 @@
+// A row's unit of measure: the ladder loaded into lstUOM and the row, the slash walk
+// through the units, a choice from the list, and the check of multi-unit quantities.
+#include "grid/row_model/grid_columns.h"
+#include "screen_fixture.h"
+
+namespace screen_test {
+namespace {
+
+using screen::Zuro_frmDispatch_Dispatch;
+
+class UnitsOfMeasure : public ScreenTest {
+protected:
+    Zuro_frmDispatch_Dispatch& OpenWithRow(long mode, const std::string& code, const std::string& name,
+                                           const std::string& originalPrice) {
+        Zuro_frmDispatch_Dispatch& f = Open(mode);
+        if (!f.lstUOM.Click.Connected()) f.WireItemLookupAndUnits();
+        auto& grid = f.DTFlexDispatch;
+        if (grid.GridRows() < 1) grid.SetGridRows(1);
+        grid.SetCell(1, grid::colItemCode, code);
+        grid.SetCell(1, grid::colItemName, name);
+        grid.SetCell(1, grid::colOriginalPrice, originalPrice);
+        return f;
+    }
+    std::string Cell(int col) { return form->DTFlexDispatch.GetCell(1, col); }
+    std::string Entries() {
+        std::string text;
+        for (const auto& entry : form->lstUOM.Entries())
+            text += (text.empty() ? "" : "|") + entry.text + "=" + std::to_string(entry.itemData);
+        return text;
+    }
+};
+
+TEST_F(UnitsOfMeasure, ANewRowTakesTheSalesUnitTheLadderAndThePriceInThatUnit) {
+    Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "FD001", "Marie Biscuit 100g", "9");
+    f.LoadItemUOM("FD001", 1);
+    EXPECT_EQ(Entries(), "Multiple=0|PCS=1|BOX=2|CASE=3");
+    EXPECT_EQ(Cell(grid::colUOMID), "2");
+    EXPECT_EQ(Cell(grid::colUOM), "BOX");
+    EXPECT_EQ(Cell(grid::colUOMDesc), "PCS=1 BOX=24 CASE=240 ");
+    EXPECT_DOUBLE_EQ(f.dUOMRate, 24);
+    EXPECT_EQ(Cell(grid::colSalePrice), "216");
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(UnitsOfMeasure, AStoredUnitIsKeptAndGivesTheRate) {
+    Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "FD001", "Marie Biscuit 100g", "9");
+    f.DTFlexDispatch.SetCell(1, grid::colUOMID, "3");
+    f.DTFlexDispatch.SetCell(1, grid::colUOM, "CASE");
+    f.LoadItemUOM("FD001", 1);
+    EXPECT_EQ(Cell(grid::colUOMID), "3");
+    EXPECT_EQ(Cell(grid::colUOM), "CASE");
+    EXPECT_EQ(Cell(grid::colUOMDesc), "");  // the ladder is written only for a row without a unit
+    EXPECT_DOUBLE_EQ(f.dUOMRate, 240);
+    EXPECT_EQ(Cell(grid::colSalePrice), "2160");
+}
+
+TEST_F(UnitsOfMeasure, AFreeRowKeepsPriceZeroThroughAReload) {
+    Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "FD002", "Cream Biscuit 75g", "12");
+    f.DTFlexDispatch.SetCell(1, grid::colFreeItem, "1");
+    f.DTFlexDispatch.SetCell(1, grid::colFreeRow, "1");
+    f.DTFlexDispatch.SetCell(1, grid::colSalePrice, "0");
+    f.LoadItemUOM("FD002", 1);
+    EXPECT_EQ(Cell(grid::colUOM), "BOX");
+    EXPECT_EQ(Cell(grid::colSalePrice), "0");
+}
+
+TEST_F(UnitsOfMeasure, AnUnknownItemLeavesTheRowAndAnEmptyList) {
+    Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "XX999", "", "5");
+    f.lstUOM.AddItem("stale", 9);
+    f.LoadItemUOM("XX999", 1);
+    EXPECT_EQ(f.lstUOM.ListCount(), 0);
+    EXPECT_EQ(Cell(grid::colUOMID), "");
+    EXPECT_EQ(Cell(grid::colSalePrice), "");
+    EXPECT_EQ(Errors(), 0);
+}
+
+TEST_F(UnitsOfMeasure, TheSlashWalkGoesUpTheLadderThenToMultipleAndRoundAgain) {
+    Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "FD001", "Marie Biscuit 100g", "9");
+    f.LoadItemUOM("FD001", 1);
+    f.DTFlexDispatch.SetGridCol(grid::colQuantity);
+    f.DTFlexDispatch.SetCell(1, grid::colQuantity, "3");
+
+    std::vector<std::string> walk;
+    for (int step = 0; step < 4; ++step) {
+        f.CycleUOM();
+        walk.push_back(Cell(grid::colUOMID) + ":" + Cell(grid::colUOM));
+    }
+    EXPECT_EQ(walk, (std::vector<std::string>{"3:CASE", "0:Multiple", "1:PCS", "2:BOX"}));
+    // The quantity stays as typed; the price follows the unit.
+    EXPECT_EQ(Cell(grid::colQuantity), "3");
+    EXPECT_DOUBLE_EQ(f.dUOMRate, 24);
+    EXPECT_FALSE(host->Services().global.GetListGuard());
+}
+
+TEST_F(UnitsOfMeasure, OneUnitOnlyMeansNoWalk) {
+    Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "FD003", "Salt Crackers 200g", "18");
+    f.LoadItemUOM("FD003", 1);
+    f.lstUOM.RemoveItem(1);  // the multi-unit entry alone
+    f.CycleUOM();
+    EXPECT_EQ(Cell(grid::colUOMID), "1");
+}
+
+TEST_F(UnitsOfMeasure, AChoiceFromTheListSetsUnitAndRateAndEnterGoesOnToTheQuantity) {
+    Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "FD001", "Marie Biscuit 100g", "9");
+    f.LoadItemUOM("FD001", 1);
+    f.DTFlexDispatch.SetGridCol(grid::colUOM);
+    f.lstUOM.SetListIndex(3);  // CASE, with its click
+    EXPECT_EQ(Cell(grid::colUOMID), "3");
+    EXPECT_EQ(Cell(grid::colUOM), "CASE");
+    EXPECT_DOUBLE_EQ(f.dUOMRate, 240);
+
+    f.DTFlexDispatch.SetGridCol(grid::colUOM);
+    f.lstUOM.Visible = true;
+    f.lstUOM.SetListIndex(1);
+    int key = 13;
+    f.lstUOM.KeyDown.Raise(key, 0);
+    EXPECT_EQ(Cell(grid::colUOM), "PCS");
+    EXPECT_EQ(Cell(grid::colQuantity), "");  // the unit never lands in the quantity
+    EXPECT_EQ(f.DTFlexDispatch.GridCol(), grid::colQuantity);
+    EXPECT_FALSE(f.lstUOM.Visible);
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(UnitsOfMeasure, MultiUnitQuantitiesAreCheckedUpToTheGivenRow) {
+    Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "FD001", "Marie Biscuit 100g", "9");
+    auto& grid = f.DTFlexDispatch;
+    grid.SetGridRows(3);
+    grid.SetCell(1, grid::colUOMID, "0");
+    grid.SetCell(1, grid::colQuantity, "1*2*5");
+    grid.SetCell(2, grid::colItemCode, "FD003");
+    grid.SetCell(2, grid::colUOMID, "1");
+    grid.SetCell(2, grid::colQuantity, "1*2");  // not multi-unit: not looked at
+    grid.SetCell(3, grid::colItemCode, "FD003");
+    grid.SetCell(3, grid::colUOMID, "0");
+    grid.SetCell(3, grid::colQuantity, "1*2");  // one level cannot hold two counts
+
+    bool bValid = false;
+    f.ValidateUOM(2, bValid);
+    EXPECT_TRUE(bValid);
+    f.ValidateUOM(3, bValid);
+    EXPECT_FALSE(bValid);
+}
+
+TEST_F(UnitsOfMeasure, RowsSharingALinkWithTheRemovedRowGetFreshLinks) {
+    Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "FD001", "Marie Biscuit 100g", "9");
+    auto& grid = f.DTFlexDispatch;
+    grid.SetGridRows(4);
+    const char* links[] = {"", "4", "4", "4", "2"};
+    const char* free[] = {"", "0", "0", "1", "0"};
+    for (int row = 1; row <= 4; ++row) {
+        grid.SetCell(row, grid::colItemCheck, links[row]);
+        grid.SetCell(row, grid::colFreeItem, free[row]);
+    }
+    f.CheckForMultipleUOM(1);
+    EXPECT_EQ(grid.GetCell(1, grid::colItemCheck), "4");
+    EXPECT_EQ(grid.GetCell(2, grid::colItemCheck), "5");  // the highest link plus one
+    EXPECT_EQ(grid.GetCell(3, grid::colItemCheck), "4");  // a free row keeps its link
+    EXPECT_EQ(grid.GetCell(4, grid::colItemCheck), "2");
+}
+
+TEST_F(UnitsOfMeasure, CopyFindsTheQuantityColumnAndPasteAddsNothing) {
+    Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "FD001", "Marie Biscuit 100g", "9");
+    auto& grid = f.DTFlexDispatch;
+    grid.SetCell(1, grid::colQuantity, " 12 ");
+    grid.SetGridRows(2);
+    EXPECT_EQ(f.FindQuantityColumn(grid, 1), grid::colQuantity);
+    EXPECT_EQ(f.GetGridQuantity(grid, 1), "12");
+    EXPECT_EQ(f.FirstBlankGridRow(grid), 2);
+    f.CopyGridItems(grid);
+    f.PasteGridItems(grid);
+    EXPECT_EQ(grid.GridRows(), 2);
+    EXPECT_TRUE(grid.IsBlankRow(2));
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+}  // namespace
+}  // namespace screen_test

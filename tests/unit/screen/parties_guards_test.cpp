@@ -1,0 +1,180 @@
+// A grid that has lines guards them against a party change that would not suit the
+// items taken: the clerk either drops the lines or gets the old party back.
+#include "parties_test_fixture.h"
+#include "screen/host_services/host_messages.h"
+
+namespace parties_test {
+namespace {
+
+using host_services::msgbox::AnswerNo;
+using host_services::msgbox::AnswerYes;
+
+const std::string kMessage10 =
+    "The items entered do not belong to the new category group and will be removed. Do you want to continue?";
+const std::string kMessage11 = "Changing the category group will remove the items entered. Do you want to continue?";
+
+class PartyGuards : public PartiesTest {
+protected:
+    // Arun Kumar on Anna Nagar selling Foods, with one line in the grid, as an
+    // earlier Enter left it.
+    void FoodsNoteWithALine() {
+        auto& f = Form();
+        Pick(f.txtSalesman, "Arun Kumar", "1");
+        Pick(f.txtBeat, "Anna Nagar", "1");
+        Pick(f.txtCategory, "Foods", "1");
+        f.LoadPreviousValues();
+        AddGridLine("FD001", "Marie Biscuit 100g");
+    }
+};
+
+TEST_F(PartyGuards, ANewSalesmanWhoseTypeDoesNotSellTheGroupAsksAndNoBringsTheOldOneBack) {
+    FoodsNoteWithALine();
+    auto& f = Form();
+    Pick(f.txtSalesman, "Bala Murugan", "2");
+    Answer(AnswerNo);
+    bool bRefused = false;
+    f.CheckForGridItem(0, bRefused);
+
+    EXPECT_EQ(Messages(), std::vector<std::string>{kMessage10});
+    EXPECT_TRUE(bRefused);
+    EXPECT_EQ(f.txtSalesman.Text(), "Arun Kumar");
+    EXPECT_EQ(f.txtSalesman.Tag, "1");
+    EXPECT_EQ(GridLines(), 1);
+    EXPECT_EQ(f.szCurrentGroupID, "1");
+}
+
+TEST_F(PartyGuards, AnsweringNoToASalesmanTheProgramFilledEmptiesTheSalesman) {
+    FoodsNoteWithALine();
+    auto& f = Form();
+    Pick(f.txtSalesman, "Bala Murugan", "2");
+    Answer(AnswerNo);
+    bool bRefused = false;
+    f.CheckForGridItem(2, bRefused);
+
+    EXPECT_TRUE(bRefused);
+    EXPECT_EQ(f.txtSalesman.Text(), "");
+    EXPECT_TRUE(f.bGroupClearedSalesman);
+    EXPECT_EQ(Focused(), "txtSalesman");
+}
+
+TEST_F(PartyGuards, AnsweringYesDropsTheLinesAndReloadsTheGroups) {
+    FoodsNoteWithALine();
+    auto& f = Form();
+    Pick(f.txtSalesman, "Bala Murugan", "2");
+    Answer(AnswerYes);
+    bool bRefused = false;
+    f.CheckForGridItem(2, bRefused);
+
+    EXPECT_FALSE(bRefused);
+    EXPECT_EQ(GridLines(), 0);
+    EXPECT_EQ(f.DTFlexDispatch.GridRows(), 1);
+    // Bala Murugan's type sells Personal Care alone.
+    EXPECT_EQ(f.txtCategory.Tag, "3");
+    EXPECT_EQ(f.txtCategory.Text(), "Personal Care");
+    EXPECT_TRUE(f.bPartyAutoFilled);
+}
+
+TEST_F(PartyGuards, NoQuestionWhileTheGroupSuitsOrTheGridIsEmpty) {
+    FoodsNoteWithALine();
+    auto& f = Form();
+    // Ezhil Mani's type sells Foods too.
+    Pick(f.txtSalesman, "Ezhil Mani", "5");
+    bool bRefused = false;
+    f.CheckForGridItem(0, bRefused);
+    EXPECT_TRUE(Messages().empty());
+
+    f.DTFlexDispatch.ClearGrid();
+    f.DTFlexDispatch.SetGridRows(1);
+    Pick(f.txtSalesman, "Bala Murugan", "2");
+    f.CheckForGridItem(0, bRefused);
+    EXPECT_TRUE(Messages().empty());
+    EXPECT_FALSE(bRefused);
+    EXPECT_EQ(f.txtSalesman.Text(), "Bala Murugan");
+}
+
+TEST_F(PartyGuards, ASalesmanChangedUnderAFilledGridCanBeTakenBack) {
+    FoodsNoteWithALine();
+    auto& f = Form();
+    Pick(f.txtSalesman, "Bala Murugan", "2");
+    Answer(AnswerNo);
+    EnterSalesman();
+
+    EXPECT_EQ(f.txtSalesman.Text(), "Arun Kumar");
+    EXPECT_EQ(f.txtBeat.Text(), "Anna Nagar");
+    EXPECT_EQ(f.txtCategory.Text(), "Foods");
+    EXPECT_EQ(GridLines(), 1);
+}
+
+TEST_F(PartyGuards, ChangingTheGroupAsksWithMessageElevenAndNoRestoresIt) {
+    FoodsNoteWithALine();
+    auto& f = Form();
+    Pick(f.txtCategory, "Beverages", "2");
+    Answer(AnswerNo);
+    EnterCategory();
+
+    EXPECT_EQ(Messages(), std::vector<std::string>{kMessage11});
+    EXPECT_EQ(f.txtCategory.Text(), "Foods");
+    EXPECT_EQ(f.txtCategory.Tag, "1");
+    EXPECT_FALSE(f.bGroupReset);
+    EXPECT_EQ(GridLines(), 1);
+}
+
+TEST_F(PartyGuards, ChangingTheGroupAndAnsweringYesDropsTheLines) {
+    FoodsNoteWithALine();
+    auto& f = Form();
+    Pick(f.txtCategory, "Beverages", "2");
+    Answer(AnswerYes);
+    EnterCategory();
+
+    EXPECT_TRUE(f.bGroupReset);
+    EXPECT_EQ(GridLines(), 0);
+    EXPECT_EQ(f.txtCategory.Tag, "2");
+    EXPECT_EQ(f.szPrevGroupID, "2");
+    EXPECT_EQ(f.szItemNameQuery,
+              "Select Product_Code,ProductName From dbo.Sp_Get_Items_QAX('2') Where ProductName Like '");
+    EXPECT_EQ(Focused(), "txtref");
+}
+
+TEST_F(PartyGuards, AGroupListThatStillHoldsEveryOldGroupNeedsNoQuestion) {
+    FoodsNoteWithALine();
+    auto& f = Form();
+    f.CheckForGroupChange("2,1", 1);
+    EXPECT_TRUE(Messages().empty());
+    EXPECT_TRUE(f.bGroupReset);
+    EXPECT_EQ(GridLines(), 1);
+}
+
+TEST_F(PartyGuards, AnsweringNoToANewSalesmansGroupsBringsEveryPartyBack) {
+    FoodsNoteWithALine();
+    auto& f = Form();
+    Pick(f.txtCustomer, "Anand Stores", "C001");
+    f.LoadPreviousValues();
+    Pick(f.txtSalesman, "Bala Murugan", "2");
+    Pick(f.txtBeat, "Adyar", "4");
+    Pick(f.txtCustomer, "Nila Enterprises", "C011");
+    Answer(AnswerNo);
+    f.CheckForGroupChange("3", 1);
+
+    EXPECT_EQ(Messages(), std::vector<std::string>{kMessage10});
+    EXPECT_EQ(f.txtSalesman.Tag, "1");
+    EXPECT_EQ(f.txtBeat.Text(), "Anna Nagar");
+    EXPECT_EQ(f.txtCustomer.Text(), "Anand Stores");
+    EXPECT_EQ(f.txtCustomerID.Text(), "C001");
+    EXPECT_EQ(f.txtCategory.Tag, "1");
+}
+
+TEST_F(PartyGuards, ResetCatGrpEmptiesTheItemStatementsForAllCategories) {
+    auto& f = Form();
+    Pick(f.txtCategory, "Foods", "1,2");
+    f.ResetCatGrp();
+    EXPECT_EQ(f.szItemCodeQuery,
+              "Select Product_Code,Product_Code From dbo.Sp_Get_Items_QAX('1,2') Where Product_Code Like '");
+    Pick(f.txtCategory, f.szLblAllCategories, "0");
+    f.ResetCatGrp();
+    EXPECT_EQ(f.szItemCodeQuery, "");
+    EXPECT_EQ(f.szItemNameQuery, "");
+    EXPECT_EQ(ErrorLines(), std::vector<std::string>{});
+}
+
+}  // namespace
+}  // namespace parties_test

@@ -1,0 +1,151 @@
+// The refusals of the party boxes: a name typed rather than chosen (4, 6, 8), all
+// categories with a salesman (173), and the checks against the masters.
+#include "parties_test_fixture.h"
+
+namespace parties_test {
+namespace {
+
+class PartyRefusals : public PartiesTest {};
+
+TEST_F(PartyRefusals, ASalesmanTypedButNotChosenIsRefusedWithSix) {
+    auto& f = Form();
+    Pick(f.txtSalesman, "Arun", "");  // typed, the list closed without a choice
+    EnterSalesman();
+    EXPECT_EQ(Numbered(), std::vector<long>{6});
+    EXPECT_EQ(f.txtSalesman.Text(), "");
+    EXPECT_EQ(Focused(), "txtSalesman");
+}
+
+TEST_F(PartyRefusals, LeavingTheSalesmanBoxTakesANameTheMasterKnows) {
+    auto& f = Form();
+    f.txtSalesman.SetText("chitra devi");
+    f.txtSalesman_LostFocus();
+    EXPECT_TRUE(Numbered().empty());
+    EXPECT_EQ(f.txtSalesman.Tag, "3");
+    // The Enter that runs by hand fills the salesman's one beat.
+    EXPECT_EQ(f.txtBeat.Text(), "Velachery");
+
+    f.txtSalesman.SetText("Nobody");
+    f.txtSalesman.Tag.clear();
+    f.txtSalesman_LostFocus();
+    EXPECT_EQ(Numbered(), std::vector<long>{6});
+    EXPECT_EQ(f.txtSalesman.Text(), "");
+    EXPECT_EQ(Focused(), "txtSalesman");
+}
+
+TEST_F(PartyRefusals, ABeatTypedButNotChosenIsRefusedWithFour) {
+    auto& f = Form();
+    Pick(f.txtBeat, "Adyar", "");
+    EnterBeat();
+    EXPECT_EQ(Numbered(), std::vector<long>{4});
+    EXPECT_EQ(f.txtBeat.Text(), "");
+    EXPECT_EQ(Focused(), "txtBeat");
+
+    Pick(f.txtBeat, "Ady", "");
+    f.txtBeat_LostFocus();
+    EXPECT_EQ(Numbered(), std::vector<long>{4});
+    EXPECT_EQ(f.txtBeat.Text(), "");
+}
+
+TEST_F(PartyRefusals, AnEmptyBeatGivesNoError) {
+    auto& f = Form();
+    f.txtBeat.Tag = "4";
+    f.txtBeat_LostFocus();
+    EXPECT_EQ(f.txtBeat.Tag, "");
+    EnterBeat();
+    EXPECT_TRUE(Numbered().empty());
+    EXPECT_EQ(Focused(), "txtCustomer");
+    EXPECT_EQ(ErrorLines(), std::vector<std::string>{});
+}
+
+TEST_F(PartyRefusals, ACategoryGroupMustBeChosenOrBeAllCategoriesInAnyCase) {
+    auto& f = Form();
+    EnterCategory();
+    EXPECT_EQ(Numbered(), std::vector<long>{8});
+
+    f.txtCategory.SetText("Foods");
+    EnterCategory();
+    EXPECT_EQ(Numbered(), std::vector<long>{8});
+    f.txtCategory_LostFocus();
+    EXPECT_EQ(Numbered(), std::vector<long>{8});
+
+    f.txtCategory.SetText("all CATEGORIES");
+    EnterCategory();
+    EXPECT_TRUE(Numbered().empty());
+    EXPECT_EQ(f.txtCategory.Tag, "0");
+    EXPECT_EQ(f.szPrevGroupID, "0");
+    EXPECT_EQ(Focused(), "txtref");
+}
+
+TEST_F(PartyRefusals, AllCategoriesWithASalesmanIsRefusedWith173) {
+    auto& f = Form();
+    Pick(f.txtCategory, "All categories", "0");
+    EXPECT_FALSE(f.DSTypeNotMapped(""));
+    EXPECT_TRUE(Numbered().empty());
+
+    Pick(f.txtSalesman, "Arun Kumar", "1");
+    EXPECT_TRUE(f.DSTypeNotMapped(""));
+    EXPECT_EQ(Numbered(), std::vector<long>{173});
+
+    Pick(f.txtCategory, "Foods", "1");
+    EXPECT_FALSE(f.DSTypeNotMapped(""));
+}
+
+TEST_F(PartyRefusals, TypingABeatUnderAllCategoriesAndASalesmanEmptiesIt) {
+    auto& f = Form();
+    Pick(f.txtSalesman, "Arun Kumar", "1");
+    Pick(f.txtCategory, "All Categories", "0");
+    f.txtBeat.SetText("T");  // the change handler runs with the typing
+    EXPECT_EQ(Numbered(), std::vector<long>{173});
+    EXPECT_EQ(f.txtBeat.Text(), "");
+    EXPECT_EQ(Focused(), "txtSalesman");
+}
+
+TEST_F(PartyRefusals, TheMastersKnowTheNamesAndTheDeactivatedBeat) {
+    auto& f = Form();
+    Pick(f.txtSalesman, "Bala Murugan", "2");
+    Pick(f.txtBeat, "Porur", "7");
+    Pick(f.txtCategory, "Health Care", "4");
+    EXPECT_TRUE(f.ValidSalesman());
+    EXPECT_TRUE(f.ValidBeat());
+    EXPECT_TRUE(f.ValidCatGroup());
+    EXPECT_TRUE(f.isBeatDeactivated(7));
+    EXPECT_FALSE(f.isBeatDeactivated(4));
+    EXPECT_FALSE(f.isBeatDeactivated(99));
+
+    Pick(f.txtSalesman, "Bala", "2");
+    Pick(f.txtCategory, "Health", "4");
+    EXPECT_FALSE(f.ValidSalesman());
+    EXPECT_FALSE(f.ValidCatGroup());
+    f.bAllCategories = true;
+    EXPECT_TRUE(f.ValidCatGroup());
+}
+
+TEST_F(PartyRefusals, AccessorsReadAKeyOnlyWhileTheBoxShowsAName) {
+    auto& f = Form();
+    Pick(f.txtSalesman, "Bala Murugan", "2");
+    Pick(f.txtBeat, "  ", "4");
+    EXPECT_EQ(f.GetSalesmanID(), 2);
+    EXPECT_EQ(f.GetSalesmanName(), "Bala Murugan");
+    EXPECT_EQ(f.GetBeatID(), 0);
+    EXPECT_EQ(f.GetBeatName(), "");
+}
+
+TEST_F(PartyRefusals, ACustomerWithoutTinIsWarnedOfInANewNote) {
+    settings.Set("GetTinCheckEnabled", "true");
+    auto& f = Form();
+    Pick(f.txtCustomer, "Priya Traders", "C012");
+    f.CheckTinNumber();
+    EXPECT_EQ(Messages(), std::vector<std::string>{"TIN number does not exist for this customer"});
+    Pick(f.txtCustomer, "Anand Stores", "C001");
+    f.CheckTinNumber();
+    EXPECT_TRUE(Messages().empty());
+
+    settings.Set("GetTinCheckEnabled", "false");
+    Pick(f.txtCustomer, "Priya Traders", "C012");
+    f.CheckTinNumber();
+    EXPECT_TRUE(Messages().empty());
+}
+
+}  // namespace
+}  // namespace parties_test

@@ -3,38 +3,11 @@
 #include <stdexcept>
 
 #include "platform/convert.h"
+#include "screen/routine_arguments.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
 
-namespace {
-// The arguments of a call by name, as the caller wrote them; a wrong count or a
-// word where a number belongs is refused before the routine runs.
-class CallArguments {
-public:
-    CallArguments(const RoutineCall& call, std::size_t count) : call_(call) {
-        if (call.arguments.size() != count)
-            throw std::invalid_argument("takes " + std::to_string(count) + " argument(s), was given " +
-                                        std::to_string(call.arguments.size()));
-    }
-    const std::string& Text(std::size_t i) const { return call_.arguments[i]; }
-    double Number(std::size_t i) const {
-        if (!platform::IsNumericText(Text(i)))
-            throw std::invalid_argument("argument " + std::to_string(i + 1) + " must be a number, was \"" + Text(i) + "\"");
-        return platform::ToNumber(platform::Value(Text(i)));
-    }
-    long Whole(std::size_t i) const { return platform::CLng(Number(i)); }
-    bool Flag(std::size_t i) const {
-        const std::string word = platform::UCase(Text(i));
-        if (word == "TRUE") return true;
-        if (word == "FALSE") return false;
-        return Number(i) != 0;
-    }
-
-private:
-    const RoutineCall& call_;
-};
-}  // namespace
 
 void Zuro_frmDispatch_Dispatch::WireGridKeysAndRows() {
     auto& grid = DTFlexDispatch;
@@ -49,76 +22,76 @@ void Zuro_frmDispatch_Dispatch::WireGridKeysAndRows() {
     using platform::Value;
     auto add = [this](const char* name, RoutineTable::Routine routine) { routines_.Add(name, std::move(routine)); };
     add("getQuotient", [this](RoutineCall& call) {
-        CallArguments args(call, 2);
-        call.result = Value(getQuotient(args.Number(0), args.Number(1)));
+        RoutineArguments args(call, 2);
+        call.result = Value(getQuotient(args.Real(0), args.Real(1)));
     });
     add("GetApplicableQuantity", [this](RoutineCall& call) {
-        CallArguments args(call, 4);
-        call.result = Value(GetApplicableQuantity(args.Number(0), args.Number(1), args.Whole(2), args.Number(3)));
+        RoutineArguments args(call, 4);
+        call.result = Value(GetApplicableQuantity(args.Real(0), args.Real(1), args.Number(2), args.Real(3)));
     });
     add("GetActualQuantity", [this](RoutineCall& call) {
-        CallArguments args(call, 3);
-        call.result = Value(GetActualQuantity(args.Whole(0), static_cast<int>(args.Whole(1)), args.Number(2), DTFlexDispatch));
+        RoutineArguments args(call, 3);
+        call.result = Value(GetActualQuantity(args.Number(0), static_cast<int>(args.Number(1)), args.Real(2), DTFlexDispatch));
     });
     add("GetBaseUOMConv", [this](RoutineCall& call) {
-        CallArguments args(call, 2);
-        call.result = Value(GetBaseUOMConv(args.Text(0), static_cast<int>(args.Whole(1))));
+        RoutineArguments args(call, 2);
+        call.result = Value(GetBaseUOMConv(args.Text(0), static_cast<int>(args.Number(1))));
     });
     add("chkFreeItemFound", [this](RoutineCall& call) {
-        CallArguments args(call, 2);
-        call.result = Value(chkFreeItemFound(args.Whole(0), args.Whole(1)));
+        RoutineArguments args(call, 2);
+        call.result = Value(chkFreeItemFound(args.Number(0), args.Number(1)));
     });
     add("AddStringwithCheck", [this](RoutineCall& call) {
-        CallArguments args(call, 3);
+        RoutineArguments args(call, 3);
         call.result = Value(AddStringwithCheck(args.Text(0), args.Text(1), args.Text(2)));
     });
     add("CheckScheme", [this](RoutineCall& call) {
-        CallArguments args(call, 2);
-        CheckScheme(args.Whole(0), args.Flag(1), DTFlexDispatch);
+        RoutineArguments args(call, 2);
+        CheckScheme(args.Number(0), args.Boolean(1), DTFlexDispatch);
     });
     add("GetSaleID", [this](RoutineCall& call) {
-        CallArguments args(call, 1);
+        RoutineArguments args(call, 1);
         call.result = Value(GetSaleID(args.Text(0)));
     });
     add("ComputeTotal", [this](RoutineCall& call) {
-        CallArguments args(call, 2);
-        ComputeTotal(args.Whole(0), args.Flag(1));
+        RoutineArguments args(call, 2);
+        ComputeTotal(args.Number(0), args.Boolean(1));
     });
     add("ComputeDiscount", [](RoutineCall& call) {
-        CallArguments args(call, 3);
-        call.result = Value(ComputeDiscount(args.Number(0), args.Number(1), args.Number(2)));
+        RoutineArguments args(call, 3);
+        call.result = Value(ComputeDiscount(args.Real(0), args.Real(1), args.Real(2)));
     });
     add("GetTotalQtyAmountForItem", [this](RoutineCall& call) {
-        CallArguments args(call, 1);
+        RoutineArguments args(call, 1);
         call.result = Value(GetTotalQtyAmountForItem(args.Text(0)));
     });
     add("GetMaxSchemeGridID", [this](RoutineCall& call) {
-        CallArguments args(call, 0);
+        RoutineArguments args(call, 0);
         long nNext = 0;
         GetMaxSchemeGridID(nNext);
         call.outs.emplace_back("nNext", Value(nNext));
     });
     add("AdjustRow", [this](RoutineCall& call) {
-        CallArguments args(call, 1);
-        AdjustRow(args.Whole(0));
+        RoutineArguments args(call, 1);
+        AdjustRow(args.Number(0));
     });
     add("GetCustomerForScheme", [this](RoutineCall& call) {
-        CallArguments args(call, 0);
+        RoutineArguments args(call, 0);
         call.result = Value(GetCustomerForScheme());
     });
     add("ResetSchemeMemory", [this](RoutineCall& call) {
-        CallArguments args(call, 0);
+        RoutineArguments args(call, 0);
         ResetSchemeMemory();
     });
     add("DTFlexDispatch_RowColChange", [this](RoutineCall& call) {
-        CallArguments args(call, 2);
-        DTFlexDispatch_RowColChange(static_cast<int>(args.Whole(0)), static_cast<int>(args.Whole(1)));
+        RoutineArguments args(call, 2);
+        DTFlexDispatch_RowColChange(static_cast<int>(args.Number(0)), static_cast<int>(args.Number(1)));
     });
     for (auto [name, routine] : {std::pair{"DTFlexDispatch_AfterDelete", &Zuro_frmDispatch_Dispatch::DTFlexDispatch_AfterDelete},
                                  std::pair{"DTFlexDispatch_AtLastRow", &Zuro_frmDispatch_Dispatch::DTFlexDispatch_AtLastRow},
                                  std::pair{"DTFlexDispatch_AtFirstRow", &Zuro_frmDispatch_Dispatch::DTFlexDispatch_AtFirstRow}})
         add(name, [this, routine = routine](RoutineCall& call) {
-            CallArguments args(call, 0);
+            RoutineArguments args(call, 0);
             (this->*routine)();
         });
 }

@@ -3,36 +3,11 @@
 #include <stdexcept>
 
 #include "platform/convert.h"
+#include "screen/routine_arguments.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
 
-namespace {
-// The arguments of a call by name, as the caller wrote them.
-class Arguments {
-public:
-    Arguments(const RoutineCall& call, std::size_t least, std::size_t most) : call_(call) {
-        const std::size_t given = call.arguments.size();
-        if (given < least || given > most)
-            throw std::invalid_argument("takes " + Expected(least, most) + ", was given " + std::to_string(given));
-    }
-    bool Has(std::size_t i) const { return i < call_.arguments.size(); }
-    const std::string& Text(std::size_t i) const { return call_.arguments.at(i); }
-    long Number(std::size_t i) const {
-        const std::string& text = call_.arguments.at(i);
-        if (!platform::IsNumericText(text))
-            throw std::invalid_argument("argument " + std::to_string(i + 1) + " must be a number, was \"" + text + "\"");
-        return platform::CLng(platform::ToNumber(platform::Value(text)));
-    }
-
-private:
-    static std::string Expected(std::size_t least, std::size_t most) {
-        if (least == most) return least == 1 ? "1 argument" : std::to_string(least) + " arguments";
-        return std::to_string(least) + " to " + std::to_string(most) + " arguments";
-    }
-    const RoutineCall& call_;
-};
-}  // namespace
 
 void Zuro_frmDispatch_Dispatch::WirePartyEvents() {
     txtSalesman.Change.Connect([this] { txtSalesman_Change(); });
@@ -47,7 +22,7 @@ void Zuro_frmDispatch_Dispatch::WirePartyEvents() {
     using Self = Zuro_frmDispatch_Dispatch;
     auto plain = [this](const char* name, void (Self::*routine)()) {
         routines_.Add(name, [this, routine](RoutineCall& call) {
-            Arguments(call, 0, 0);
+            RoutineArguments(call, 0, 0);
             (this->*routine)();
         });
     };
@@ -71,7 +46,7 @@ void Zuro_frmDispatch_Dispatch::WirePartyEvents() {
 
     auto withResult = [this](const char* name, auto (Self::*routine)()) {
         routines_.Add(name, [this, routine](RoutineCall& call) {
-            Arguments(call, 0, 0);
+            RoutineArguments(call, 0, 0);
             call.result = platform::Value((this->*routine)());
         });
     };
@@ -86,7 +61,7 @@ void Zuro_frmDispatch_Dispatch::WirePartyEvents() {
     withResult("ValidCatGroup", &Self::ValidCatGroup);
 
     auto withNumber = [this](const char* name, void (Self::*routine)(long)) {
-        routines_.Add(name, [this, routine](RoutineCall& call) { (this->*routine)(Arguments(call, 1, 1).Number(0)); });
+        routines_.Add(name, [this, routine](RoutineCall& call) { (this->*routine)(RoutineArguments(call, 1, 1).Number(0)); });
     };
     withNumber("LoadCategoryGroup", &Self::LoadCategoryGroup);
     withNumber("SetDefaultSalesman", &Self::SetDefaultSalesman);
@@ -95,7 +70,7 @@ void Zuro_frmDispatch_Dispatch::WirePartyEvents() {
     auto numberOut = [this](const char* name, void (Self::*routine)(long, long&)) {
         routines_.Add(name, [this, routine](RoutineCall& call) {
             long nResult = 0;
-            (this->*routine)(Arguments(call, 1, 1).Number(0), nResult);
+            (this->*routine)(RoutineArguments(call, 1, 1).Number(0), nResult);
             call.outs.emplace_back("nResult", platform::Value(nResult));
         });
     };
@@ -103,36 +78,36 @@ void Zuro_frmDispatch_Dispatch::WirePartyEvents() {
     numberOut("CheckForAllCatGrpMapped", &Self::CheckForAllCatGrpMapped);
 
     routines_.Add("isBeatDeactivated", [this](RoutineCall& call) {
-        call.result = platform::Value(isBeatDeactivated(Arguments(call, 1, 1).Number(0)));
+        call.result = platform::Value(isBeatDeactivated(RoutineArguments(call, 1, 1).Number(0)));
     });
-    routines_.Add("SetDefaultCatGroup", [this](RoutineCall& call) { SetDefaultCatGroup(Arguments(call, 1, 1).Text(0)); });
+    routines_.Add("SetDefaultCatGroup", [this](RoutineCall& call) { SetDefaultCatGroup(RoutineArguments(call, 1, 1).Text(0)); });
     routines_.Add("GetCategoryGroupNames", [this](RoutineCall& call) {
-        call.result = platform::Value(GetCategoryGroupNames(Arguments(call, 1, 1).Text(0)));
+        call.result = platform::Value(GetCategoryGroupNames(RoutineArguments(call, 1, 1).Text(0)));
     });
     routines_.Add("GetSerialInAscOrder", [](RoutineCall& call) {
-        call.result = platform::Value(GetSerialInAscOrder(Arguments(call, 1, 1).Text(0)));
+        call.result = platform::Value(GetSerialInAscOrder(RoutineArguments(call, 1, 1).Text(0)));
     });
     routines_.Add("DSTypeNotMapped", [this](RoutineCall& call) {
-        Arguments args(call, 0, 1);
+        RoutineArguments args(call, 0, 1);
         call.result = platform::Value(DSTypeNotMapped(args.Has(0) ? args.Text(0) : txtCategory.Text()));
     });
     routines_.Add("CheckForGroupChange", [this](RoutineCall& call) {
-        Arguments args(call, 2, 2);
+        RoutineArguments args(call, 2, 2);
         CheckForGroupChange(args.Text(0), args.Number(1));
     });
     routines_.Add("CheckForGridItem", [this](RoutineCall& call) {
         bool nResult = false;
-        CheckForGridItem(Arguments(call, 1, 1).Number(0), nResult);
+        CheckForGridItem(RoutineArguments(call, 1, 1).Number(0), nResult);
         call.outs.emplace_back("nResult", platform::Value(nResult));
     });
     routines_.Add("GroupExistsForSalesman", [this](RoutineCall& call) {
-        Arguments args(call, 2, 2);
+        RoutineArguments args(call, 2, 2);
         long nResult = 0;
         GroupExistsForSalesman(args.Number(0), args.Text(1), nResult);
         call.outs.emplace_back("nResult", platform::Value(nResult));
     });
     routines_.Add("GrpExists", [](RoutineCall& call) {
-        Arguments args(call, 2, 2);
+        RoutineArguments args(call, 2, 2);
         bool bAll = false, bAny = false;
         GrpExists(args.Text(0), args.Text(1), bAll, bAny);
         call.outs.emplace_back("bAll", platform::Value(bAll));
@@ -140,7 +115,7 @@ void Zuro_frmDispatch_Dispatch::WirePartyEvents() {
     });
     auto keyDown = [this](const char* name, void (Self::*routine)(int&, int)) {
         routines_.Add(name, [this, routine](RoutineCall& call) {
-            Arguments args(call, 2, 2);
+            RoutineArguments args(call, 2, 2);
             int nKeyCode = static_cast<int>(args.Number(0));
             (this->*routine)(nKeyCode, static_cast<int>(args.Number(1)));
             call.outs.emplace_back("KeyCode", platform::Value(nKeyCode));

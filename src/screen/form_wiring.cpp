@@ -1,6 +1,7 @@
 // Which routine answers which control's event, and which routines a host may
 // call by name.
 #include "platform/convert.h"
+#include "screen/routine_arguments.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
@@ -41,11 +42,8 @@ void Zuro_frmDispatch_Dispatch::WireEvents() {
 }
 
 namespace {
-const std::string& Argument(const RoutineCall& call, std::size_t index) {
-    if (index >= call.arguments.size()) throw platform::RuntimeError(450, "Wrong number of arguments or invalid property assignment");
-    return call.arguments[index];
-}
-long LongArgument(const RoutineCall& call, std::size_t index) { return platform::CLng(platform::Val(Argument(call, index))); }
+const std::string& Argument(const RoutineCall& call, std::size_t index) { return RoutineArguments(call, index + 1, 2).Text(index); }
+long LongArgument(const RoutineCall& call, std::size_t index) { return RoutineArguments(call, index + 1, 2).Number(index); }
 }  // namespace
 
 void Zuro_frmDispatch_Dispatch::RegisterRoutines() {

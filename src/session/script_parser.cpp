@@ -1,5 +1,7 @@
 #include "session/script_parser.h"
 
+#include "host/transcript.h"
+
 #include "session/script_error.h"
 
 namespace session {
@@ -81,17 +83,6 @@ std::vector<ScriptCommand> ParseScript(std::string_view text) {
     return commands;
 }
 
-std::string Quote(std::string_view text) {
-    std::string quoted = "\"";
-    for (char c : text) {
-        switch (c) {
-            case '"': quoted += "\\\""; break;
-            case '\\': quoted += "\\\\"; break;
-            case '\t': quoted += "\\t"; break;
-            default: quoted += c;
-        }
-    }
-    return quoted + "\"";
-}
+std::string Quote(std::string_view text) { return host::QuoteText(std::string(text)); }
 
 }  // namespace session

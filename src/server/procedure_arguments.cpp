@@ -181,7 +181,7 @@ ProcedureArguments::ProcedureArguments(std::string procedure, const platform::Pa
 }
 
 void ProcedureArguments::ExpectAtMost(std::size_t count) const {
-    if (values_.size() > count) ThrowServer("Procedure or function " + procedure_ + " has too many arguments specified.");
+    if (values_.size() > count) ThrowServer("Procedure or function " + procedure_ + " has too many arguments.");
 }
 
 const platform::Value& ProcedureArguments::Required(std::size_t index) const {

@@ -4,7 +4,7 @@ namespace grid {
 
 namespace {
 using A = ColumnAlign;
-constexpr std::array<ColumnSpec, kGridColumnCount> kColumns{{
+constexpr std::array<ColumnDefinition, kGridColumnCount> kColumns{{
     {colItemCode, "colItemCode", "Item Code", 1200, A::Left},
     {colItemName, "colItemName", "Item Name", 2500, A::Left},
     {colBatch, "colBatch", "Batch", 1000, A::Left},
@@ -53,11 +53,11 @@ constexpr std::array<ColumnSpec, kGridColumnCount> kColumns{{
 }};
 }  // namespace
 
-const std::array<ColumnSpec, kGridColumnCount>& ColumnTable() { return kColumns; }
+const std::array<ColumnDefinition, kGridColumnCount>& ColumnTable() { return kColumns; }
 
 std::optional<GridColumn> ColumnByName(std::string_view name) {
-    for (const auto& spec : kColumns)
-        if (spec.name == name) return spec.column;
+    for (const auto& definition : kColumns)
+        if (definition.name == name) return definition.column;
     return std::nullopt;
 }
 

@@ -59,7 +59,7 @@ inline constexpr int kGridColumnCount = 43;
 // How a column lines up; Default keeps the grid's own.
 enum class ColumnAlign { Default, Left, Right };
 
-struct ColumnSpec {
+struct ColumnDefinition {
     GridColumn column;
     std::string_view name;                // the column's name in the program
     std::optional<std::string_view> heading;  // none: the heading is never written
@@ -68,7 +68,7 @@ struct ColumnSpec {
 };
 
 // The column table, in column order.
-const std::array<ColumnSpec, kGridColumnCount>& ColumnTable();
+const std::array<ColumnDefinition, kGridColumnCount>& ColumnTable();
 // The column of a name ("colQuantity"), or nothing.
 std::optional<GridColumn> ColumnByName(std::string_view name);
 

@@ -12,11 +12,11 @@ void Zuro_frmDispatch_Dispatch::InitDTFlexDispatch() {
         auto& messages = host_.messages;
         DTFlexDispatch.SetGridCols(kGridColumnCount);
 
-        for (const ColumnSpec& spec : ColumnTable()) {
-            if (spec.heading) DTFlexDispatch.SetColHeading(spec.column, messages.GetLabel(std::string(*spec.heading)));
-            DTFlexDispatch.SetColWidth(spec.column, spec.width);
-            if (spec.align == ColumnAlign::Left) DTFlexDispatch.SetColAlignment(spec.column, global.GetAlignLeft());
-            if (spec.align == ColumnAlign::Right) DTFlexDispatch.SetColAlignment(spec.column, global.GetAlignRight());
+        for (const ColumnDefinition& definition : ColumnTable()) {
+            if (definition.heading) DTFlexDispatch.SetColHeading(definition.column, messages.GetLabel(std::string(*definition.heading)));
+            DTFlexDispatch.SetColWidth(definition.column, definition.width);
+            if (definition.align == ColumnAlign::Left) DTFlexDispatch.SetColAlignment(definition.column, global.GetAlignLeft());
+            if (definition.align == ColumnAlign::Right) DTFlexDispatch.SetColAlignment(definition.column, global.GetAlignRight());
         }
 
         DTFlexDispatch.SetColFormat(colStoredQty, global.GetNumberFormat(0));

@@ -16,7 +16,7 @@ TableFunctionArguments::TableFunctionArguments(std::string function, const std::
                                          function_ + ".");
     if (arguments.size() > declared)
         throw platform::RuntimeError(platform::err::DatabaseError,
-                                     "Procedure or function dbo." + function_ + " has too many arguments specified.");
+                                     "Procedure or function dbo." + function_ + " has too many arguments.");
 }
 
 long long TableFunctionArguments::Int(std::size_t index) const {

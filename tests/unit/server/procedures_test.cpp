@@ -88,7 +88,7 @@ TEST_F(Procedures, ArgumentErrorsAreTheServers) {
     };
     EXPECT_EQ(description({{7, platform::adtype::Integer}}),
               "Procedure or function 'sp_Take_Stock' expects parameter '@Quantity', which was not supplied.");
-    EXPECT_EQ(description({{7, 3}, {1, 5}, {1, 5}}), "Procedure or function sp_Take_Stock has too many arguments specified.");
+    EXPECT_EQ(description({{7, 3}, {1, 5}, {1, 5}}), "Procedure or function sp_Take_Stock has too many arguments.");
     EXPECT_EQ(description({{"7b", platform::adtype::VarChar}, {1, 5}}),
               "Conversion failed when converting the varchar value '7b' to data type int.");
     // Nothing was taken by the refused calls.

@@ -214,7 +214,6 @@ public:
     std::string szItemCodeQuery, szItemNameQuery;
 
     // ---- item look-up, row serials, units of measure ----------------------------------
-    // (look-up, serials and units: declarations of these routines and fields go here)
     // The item list and its two companions, which are made with it and only owned.
     std::unique_ptr<host_services::AutoList> objItemListSpare1, objItemListSpare2;
     long nDispatchID = 0;              // the dispatch being amended
@@ -242,10 +241,8 @@ public:
     long FindQuantityColumn(platform::DTFlex& grid, long nRow);
     std::string GetGridQuantity(platform::DTFlex& grid, long nRow);
     void WireItemLookupAndUnits();
-    // ---- end of item look-up, row serials, units of measure ---------------------------
 
     // ---- item entry, pricing and batches --------------------------------------------------
-    // (entry, pricing and batches: declarations of these routines and fields go here)
     double dUOMRate = 0;        // base units in one unit of the row in hand
     long nBatchTrack = 0;       // colBatchTrack of the current row
     long nPriceOption = 0;      // colPriceOption of the current row
@@ -288,10 +285,8 @@ public:
     void ShowBatchStockStatus(long nRow, long nCol);
     bool bItemEntryWired = false;  // WireItemEntryAndBatches has run
     void WireItemEntryAndBatches();
-    // ---- end of item entry, pricing and batches ----------------------------------------
 
     // ---- scheme arithmetic, grid keyboard and rows -------------------------------------
-    // (schemes and keyboard: declarations of these routines and fields go here)
     // Scheme arithmetic and look-ups shared by every scheme generation.
     double getQuotient(double nDividend, double nDivider);
     double GetApplicableQuantity(double dQuantity, double dAmount, long nSlabUnit, double dOnward);
@@ -338,7 +333,6 @@ public:
     void AdjustRow(long nRemoved);
     std::string GetCustomerForScheme();
     void WireGridKeysAndRows();
-    // ---- end of scheme arithmetic, grid keyboard and rows ------------------------------
 
     // ---- call-backs of the host's lists -----------------------------------------
     void AutoListCallBack() override;

@@ -14,14 +14,7 @@ using parties_test::ScratchDatabase;
 
 class ItemServerObjects : public ::testing::Test {
 protected:
-    std::string Rows(const platform::RecordsetPtr& rs) {
-        std::string text;
-        for (; rs && rs->IsOpen() && !rs->Eof(); rs->MoveNext()) {
-            if (!text.empty()) text += ";";
-            for (int i = 0; i < rs->FieldCount(); ++i) text += (i ? "|" : "") + platform::ToText(rs->Fields(i));
-        }
-        return text;
-    }
+    std::string Rows(const platform::RecordsetPtr& rs) { return parties_test::RowsText(rs); }
     std::string Codes(const std::string& source) {
         return Rows(database->Execute("Select Product_Code From " + source + " Order By Product_Code"));
     }

@@ -15,14 +15,7 @@ using parties_test::ScratchDatabase;
 class PartyServerObjects : public ::testing::Test {
 protected:
     // Rows as "a|b;c|d".
-    std::string Rows(const platform::RecordsetPtr& rs) {
-        std::string text;
-        for (; rs && rs->IsOpen() && !rs->Eof(); rs->MoveNext()) {
-            if (!text.empty()) text += ";";
-            for (int i = 0; i < rs->FieldCount(); ++i) text += (i ? "|" : "") + platform::ToText(rs->Fields(i));
-        }
-        return text;
-    }
+    std::string Rows(const platform::RecordsetPtr& rs) { return parties_test::RowsText(rs); }
     std::string Query(const std::string& sql) { return Rows(database->Execute(sql)); }
     std::string Call(const std::string& name, const platform::ParameterList& parameters) {
         return Rows(database->RunProcedure(name, parameters));

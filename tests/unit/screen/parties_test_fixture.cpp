@@ -108,4 +108,13 @@ std::string PartiesTest::Focused() const {
     return control ? control->FullName() : "";
 }
 
+std::string RowsText(const platform::RecordsetPtr& rs) {
+    std::string text;
+    for (; rs && rs->IsOpen() && !rs->Eof(); rs->MoveNext()) {
+        if (!text.empty()) text += ";";
+        for (int i = 0; i < rs->FieldCount(); ++i) text += (i ? "|" : "") + platform::ToText(rs->Fields(i));
+    }
+    return text;
+}
+
 }  // namespace parties_test

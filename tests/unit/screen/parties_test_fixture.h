@@ -72,4 +72,7 @@ protected:
     std::size_t linesAtOpen = 0;
 };
 
+// A result's rows as "a|b;c|d", each value as the runtime writes it.
+std::string RowsText(const platform::RecordsetPtr& rs);
+
 }  // namespace parties_test

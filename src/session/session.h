@@ -15,7 +15,7 @@
 #include "platform/grid.h"
 #include "screen/routine_table.h"
 #include "screen/screen_form.h"
-#include "session/private_folder.h"
+#include "platform/private_folder.h"
 #include "session/screen_opener.h"
 #include "session/script_parser.h"
 #include "session/session_database.h"
@@ -65,7 +65,7 @@ public:
 private:
     std::ostream& out_;
     SessionOptions options_;
-    PrivateFolder folder_;
+    platform::PrivateFolder folder_{"dispatch-session"};
     SessionDatabase database_;
     // Declared after the database and before the screens: the host outlives every
     // form that holds its services.

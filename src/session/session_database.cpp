@@ -8,7 +8,7 @@
 
 namespace session {
 
-SessionDatabase::SessionDatabase(PrivateFolder& folder, std::optional<std::string> defaultFile) : folder_(folder) {
+SessionDatabase::SessionDatabase(platform::PrivateFolder& folder, std::optional<std::string> defaultFile) : folder_(folder) {
     if (defaultFile) {
         source_ = Source::File;
         file_ = *defaultFile;

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "platform/database.h"
-#include "session/private_folder.h"
+#include "platform/private_folder.h"
 
 namespace server {
 class EmbeddedConnection;
@@ -18,7 +18,7 @@ namespace session {
 
 class SessionDatabase {
 public:
-    SessionDatabase(PrivateFolder& folder, std::optional<std::string> defaultFile);
+    SessionDatabase(platform::PrivateFolder& folder, std::optional<std::string> defaultFile);
     ~SessionDatabase();
 
     // `database demo`, `database empty` or `database FILE`. Throws std::invalid_argument
@@ -36,7 +36,7 @@ private:
     enum class Source { Demo, Empty, File };
     void Open();
 
-    PrivateFolder& folder_;
+    platform::PrivateFolder& folder_;
     Source source_ = Source::Demo;
     std::string file_;
     bool chosen_ = false;

@@ -1,19 +1,14 @@
 #include "host_fixture.h"
 
-#include <atomic>
-#include <unistd.h>
 
 #include "server/database_files.h"
+#include "support/scratch_files.h"
 #include "server/schema.h"
 
 namespace host_test {
 
 TempPath::TempPath(const std::string& suffix) {
-    static std::atomic<int> counter{0};
-    path_ = (std::filesystem::temp_directory_path() /
-             ("host-test-" + std::to_string(::getpid()) + "-" + std::to_string(counter++) + suffix))
-                .string();
-    std::filesystem::remove_all(path_);
+    path_ = test_support::ScratchPath("host", suffix);
 }
 
 TempPath::~TempPath() {

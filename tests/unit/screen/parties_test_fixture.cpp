@@ -1,20 +1,15 @@
 #include "parties_test_fixture.h"
 
-#include <atomic>
 #include <filesystem>
-#include <unistd.h>
 
 #include "platform/convert.h"
 #include "server/database_files.h"
+#include "support/scratch_files.h"
 
 namespace parties_test {
 
 ScratchDatabase::ScratchDatabase() {
-    static std::atomic<int> counter{0};
-    path_ = (std::filesystem::temp_directory_path() /
-             ("parties-test-" + std::to_string(::getpid()) + "-" + std::to_string(counter++) + ".db"))
-                .string();
-    std::filesystem::remove(path_);
+    path_ = test_support::ScratchPath("parties", ".db");
 }
 
 ScratchDatabase::~ScratchDatabase() {

@@ -1,12 +1,10 @@
 #include "screen_fixture.h"
 
-#include <atomic>
 #include <filesystem>
-
-#include <unistd.h>
 
 #include "platform/convert.h"
 #include "server/database_files.h"
+#include "support/scratch_files.h"
 
 namespace screen_test {
 
@@ -16,20 +14,17 @@ namespace fs = std::filesystem;
 // The demo database is made once for the whole run; each test works on a copy.
 const std::string& DemoDatabase() {
     static const std::string path = [] {
-        const fs::path file = fs::temp_directory_path() / ("dispatch-screen-demo-" + std::to_string(::getpid()) + ".db");
-        fs::remove(file);
-        server::CreateDatabase(file.string(), true);
-        return file.string();
+        const std::string file = test_support::ScratchPath("demo", ".db");
+        server::CreateDatabase(file, true);
+        return file;
     }();
     return path;
 }
 
 std::string FreshCopy() {
-    static std::atomic<int> counter{0};
-    const fs::path file = fs::temp_directory_path() /
-                          ("dispatch-screen-" + std::to_string(::getpid()) + "-" + std::to_string(++counter) + ".db");
-    server::CopyDatabase(DemoDatabase(), file.string());
-    return file.string();
+    const std::string file = test_support::ScratchPath("screen", ".db");
+    server::CopyDatabase(DemoDatabase(), file);
+    return file;
 }
 }  // namespace
 

@@ -1,20 +1,16 @@
 #include "server_test_support.h"
 
-#include <atomic>
 #include <ctime>
-#include <unistd.h>
 
 #include "platform/convert.h"
 #include "server/database_files.h"
 #include "server/sqlite_values.h"
+#include "support/scratch_files.h"
 
 namespace server::testkit {
 
 ScratchFolder::ScratchFolder() {
-    static std::atomic<int> counter{0};
-    path_ = std::filesystem::temp_directory_path() /
-            ("dispatch-server-test-" + std::to_string(::getpid()) + "-" + std::to_string(counter++));
-    std::filesystem::remove_all(path_);
+    path_ = test_support::ScratchPath("server");
     std::filesystem::create_directories(path_);
 }
 

@@ -1,4 +1,4 @@
-#include "session/private_folder.h"
+#include "platform/private_folder.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -7,7 +7,7 @@
 #include <string>
 #include <system_error>
 
-namespace session {
+namespace platform {
 
 PrivateFolder::~PrivateFolder() {
     if (path_.empty()) return;
@@ -17,11 +17,11 @@ PrivateFolder::~PrivateFolder() {
 
 const std::filesystem::path& PrivateFolder::Path() {
     if (!path_.empty()) return path_;
-    std::string pattern = (std::filesystem::temp_directory_path() / "dispatch-session-XXXXXX").string();
+    std::string pattern = (std::filesystem::temp_directory_path() / (prefix_ + "-XXXXXX")).string();
     if (::mkdtemp(pattern.data()) == nullptr)
         throw std::runtime_error("cannot create a temporary folder: " + std::string(std::strerror(errno)));
     path_ = pattern;
     return path_;
 }
 
-}  // namespace session
+}  // namespace platform

@@ -1,17 +1,10 @@
 // Where the customer's account stands, on the status line: limit, what is owed,
 // what of it is overdue, cheques in hand and, in one variant, the bills outstanding.
 #include "platform/convert.h"
+#include "screen/procedure_results.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
-
-namespace {
-// A procedure's answer: the first row's field, or nothing when it gave no row.
-const platform::Value* FirstRowField(const platform::RecordsetPtr& result, const char* field = nullptr) {
-    if (!result || !result->IsOpen() || result->Eof()) return nullptr;
-    return field ? &result->Fields(field) : &result->Fields(0);
-}
-}  // namespace
 
 void Zuro_frmDispatch_Dispatch::ShowCustomerCredit(const std::string& szName, bool bWithBills) {
     Handled("ShowCustomerCredit", [&] {

@@ -1,4 +1,5 @@
 #include "host/plain_host.h"
+#include "host/print_templates.h"
 
 #include "host/auto_list.h"
 #include "host/host_state.h"
@@ -49,6 +50,11 @@ host_services::HostGlobal& PlainHost::Global() { return impl_->global; }
 OpenList* PlainHost::VisibleList() { return impl_->state.lists->Visible(); }
 
 void PlainHost::SetOutputFolder(const std::string& folder) { impl_->state.settings.Set("OutputFolder", folder); }
+
+void PlainHost::InstallPrintTemplates(const std::string& folder) {
+    std::string path = WritePrintTemplates(folder);
+    if (impl_->state.settings.Text("GetIniFilePath").empty()) impl_->state.settings.Set("GetIniFilePath", path);
+}
 void PlainHost::SetServerDate(platform::Date date) { impl_->state.serverDate = date; }
 
 std::optional<platform::Date> PlainHost::LastTransactionDate() const { return impl_->state.lastTransactionDate; }

@@ -40,6 +40,9 @@ public:
     OpenList* VisibleList();
     // Folder that printed documents are written to (the setting OutputFolder).
     void SetOutputFolder(const std::string& folder);
+    // Writes the print templates into the folder; the host reads them from there
+    // (GetIniFilePath) unless the setting names another place.
+    void InstallPrintTemplates(const std::string& folder);
     // The working date GetCurrentDate answers with; today until it is set.
     void SetServerDate(platform::Date date);
 

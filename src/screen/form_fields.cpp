@@ -20,12 +20,20 @@ void Zuro_frmDispatch_Dispatch::RegisterFields() {
     auto flag = [this](const std::string& name, const bool* field) {
         fields_[name] = [field] { return platform::ToText(platform::Value(*field)); };
     };
-    text("szCustomerCode", &szCustomerCode);
+    // The fields a host sets before it calls the save's routines itself.
+    for (auto [name, field] : {std::pair{"szEnteredCustomerCode", &szEnteredCustomerCode},
+                               std::pair{"szCustomerCode", &szCustomerCode}, std::pair{"szDocNumbers", &szDocNumbers},
+                               std::pair{"szPONumbers", &szPONumbers}, std::pair{"szDocIDs", &szDocIDs}}) {
+        writableFields_[name] = field;
+        text(name, field);
+    }
+    text("szCurrentGroupID", &szCurrentGroupID);
+    text("szError", &szError);
+    flag("bInTransaction", &bInTransaction);
+    flag("bFlushRow", &bFlushRow);
+    flag("bQtyRefused", &bQtyRefused);
     text("szCustomerName", &szCustomerName);
-    text("szDocNumbers", &szDocNumbers);
-    text("szPONumbers", &szPONumbers);
     text("szRefNumbers", &szRefNumbers);
-    text("szDocIDs", &szDocIDs);
     text("szDocIDs2", &szDocIDs2);
     text("szCopySONumber", &szCopySONumber);
     text("szMemo1", &szMemo1);
@@ -51,6 +59,13 @@ void Zuro_frmDispatch_Dispatch::RegisterFields() {
     fields_["vFocusOrder"] = [this] { return ControlNames(vFocusOrder); };
     fields_["vFocusOrder2"] = [this] { return ControlNames(vFocusOrder2); };
     fields_["objLink"] = [this] { return objLink ? objLink->Caption() : std::string("Nothing"); };
+}
+
+bool Zuro_frmDispatch_Dispatch::SetFieldText(const std::string& name, const std::string& text) {
+    auto it = writableFields_.find(name);
+    if (it == writableFields_.end()) return false;
+    *it->second = text;
+    return true;
 }
 
 std::optional<std::string> Zuro_frmDispatch_Dispatch::FieldText(const std::string& name) const {

@@ -21,6 +21,9 @@ public:
     virtual platform::DTFlex* Grid() = 0;
     // A screen field written as text; nothing when the form has no such field.
     virtual std::optional<std::string> FieldText(const std::string& name) const = 0;
+    // A host holding the form object writes one of its public text fields; false when
+    // the form has no such field that a host may write.
+    virtual bool SetFieldText(const std::string& /*name*/, const std::string& /*text*/) { return false; }
     virtual const RoutineTable& Routines() const = 0;
     // The form previews every key before the control that has focus.
     virtual bool KeyPreview() const = 0;

@@ -334,6 +334,32 @@ public:
     std::string GetCustomerForScheme();
     void WireGridKeysAndRows();
 
+    // ---- credit gates ------------------------------------------------------------------
+    bool CheckCreditGates(long nSalesmanID, long nBeatID, long nRows);
+    bool CheckCrLimit();
+    bool CheckCreditLimit(double fExposure, double fCreditLimit);
+    // Steps 3 and 4 of both gates: the typed password against the administrator's.
+    bool AdministratorPasswordMatches(const std::string& szTyped);
+
+    // ---- saving and printing -------------------------------------------------------
+    std::string szEnteredCustomerCode;   // the customer cmdSave_Click found for the typed name
+    platform::Value vOldRefNumber;       // amendment: the stored note's reference
+    std::uint8_t nOriginalStatus = 0;    // amendment: the stored note's Status
+    platform::Date dtOriginalDispatchDate{};  // amendment: the stored note's date
+    platform::Date dtPrevDispatchDate{};      // the date of the last note saved
+    bool bInTransaction = false;
+    long hWnd = 0;                       // the form's window; a plain host draws none
+    bool bFlushRow = false;
+    std::string szError;                 // why the journal refused a posting
+    bool SaveDispatch();
+    void CleanUp();
+    void InitAfterAmendment(const std::string& szDispatchID);
+    bool SaveDetailRows(long nRows, long nDispatchID, platform::Date dtDispatchDay, long nDatedPosting);
+    std::string GetPrimaryItemName(long nRow, const std::string& szCol17, const std::string& szCol32);
+    void PrintSavedDispatch(long nDispatchID);
+    void PrintViewedDispatch();
+    void WireSavingAndPrinting();
+
     // ---- call-backs of the host's lists -----------------------------------------
     void AutoListCallBack() override;
     void CustomerCallBack(const std::string& szCustomerCode, const std::string& szCustomerName) override;
@@ -345,6 +371,7 @@ public:
     platform::Control* FindControl(const std::string& name, int index = -1) override;
     platform::DTFlex* Grid() override { return &DTFlexDispatch; }
     std::optional<std::string> FieldText(const std::string& name) const override;
+    bool SetFieldText(const std::string& name, const std::string& text) override;
     const RoutineTable& Routines() const override { return routines_; }
     bool KeyPreview() const override { return true; }
     bool Close() override;
@@ -371,6 +398,16 @@ private:
         return *object;
     }
 
+    // The steps of SaveDispatch and the locals that cross them.
+    struct SaveLocals;
+    bool SaveAbstract(SaveLocals& save);
+    bool UpdateTransactionSerial(SaveLocals& save);
+    void UpdateSourceDocuments(const SaveLocals& save);
+    bool PostToAccounts(const SaveLocals& save);
+    // One pass of a detail row: its unit, quantity and price go to the server.
+    struct DetailPass;
+    bool SaveDetailPass(long nRow, const DetailPass& pass);
+
     void RegisterControls();
     void RegisterRoutines();
     void RegisterFields();
@@ -386,6 +423,7 @@ private:
     host_services::HostContext* objHostContext_ = nullptr;  // the running component's context
     std::map<std::string, platform::Control*> controls_;
     std::map<std::string, std::function<std::string()>> fields_;
+    std::map<std::string, std::string*> writableFields_;
     RoutineTable routines_;
     platform::Control* activeControl_ = nullptr;
     bool loaded_ = false;

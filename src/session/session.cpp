@@ -49,6 +49,11 @@ host::PlainHost& Session::Host(const ScriptCommand& command) {
     if (options_.traceSql) connection = TraceStatements(connection, transcript);
     host_ = std::make_unique<host::PlainHost>(connection, settings, transcript, answers);
     host_->SetOutputFolder(printFolder);
+    try {
+        host_->InstallPrintTemplates((folder_.Path() / "templates").string());
+    } catch (const std::exception& e) {
+        throw ScriptError(command.line, e.what());
+    }
     return *host_;
 }
 

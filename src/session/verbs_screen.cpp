@@ -95,12 +95,22 @@ void Call(Session& session, const ScriptCommand& command) {
     session.lastCall = std::move(call);
 }
 
+// A host holding the form object writes one of its public fields, as a host does
+// before it calls the save's routines by name.
+void Field(Session& session, const ScriptCommand& command) {
+    RequireArguments(command, 2, 2, "NAME \"TEXT\"");
+    const std::string& name = command.Argument(1);
+    if (!session.Form(command).SetFieldText(name, command.Argument(2)))
+        throw ActionRefused(fmt::format("the screen has no field {} that a host may write", name));
+}
+
 }  // namespace
 
 void AddScreenVerbs(VerbTable& verbs) {
     verbs["open"] = Open;
     verbs["close"] = Close;
     verbs["call"] = Call;
+    verbs["field"] = Field;
 }
 
 }  // namespace session

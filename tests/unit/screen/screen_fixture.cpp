@@ -42,6 +42,13 @@ ScreenTest::~ScreenTest() {
     for (const char* suffix : {"", "-wal", "-shm"}) fs::remove(path + suffix);
 }
 
+void ScreenTest::UseConnection(platform::ConnectionPtr connection) {
+    component.reset();
+    host = std::make_unique<host::PlainHost>(std::move(connection), settings, transcript, answers);
+    host->SetServerDate(Today());
+    component = std::make_unique<screen::Zuro_clsDispatch>(host->Services());
+}
+
 platform::Date ScreenTest::Today() { return platform::DateSerial(2026, 11, 22); }
 
 screen::Zuro_frmDispatch_Dispatch& ScreenTest::Open(long mode, platform::Date serverDate, platform::Date alertDate) {

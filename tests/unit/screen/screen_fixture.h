@@ -28,6 +28,9 @@ protected:
     screen::Zuro_frmDispatch_Dispatch& Open(long mode, platform::Date serverDate = Today(),
                                             platform::Date alertDate = Today());
     static platform::Date Today();
+    // The host (and a new component) over another connection to the same database,
+    // as a decorator wraps it; before Open.
+    void UseConnection(platform::ConnectionPtr connection);
 
     // The user presses a key on a control: the form previews it, then the control's
     // key-down and, for Enter, key-press.

@@ -1,0 +1,139 @@
+// Saving a keyed note: what is stored, and that a save failing at any call, or
+// refused for stock or credit, leaves every table and the grid as they were.
+#include "grid/row_model/grid_columns.h"
+#include "save_fixture.h"
+#include "session/key_press.h"
+
+namespace screen_test {
+namespace {
+
+TEST_F(SaveTest, AKeyedNoteIsStoredWithItsLinesStockCounterAndPosting) {
+    auto& f = KeyNoteForRavi();
+    ASSERT_EQ(Errors(), 0) << ErrorLines();
+    auto batch = [&](const char* number) {
+        return Scalar(std::string("SELECT SUM(Quantity) FROM Batch_Products WHERE Batch_Number = '") + number +
+                      "' AND Free = 0");
+    };
+    const std::string marieBefore = batch("MB2401"), creamBefore = batch("CB101");
+    const std::string serialBefore = Scalar("SELECT LastNumber FROM DocumentNumbers WHERE DocType = 5");
+
+    ASSERT_TRUE(f.SaveDispatch()) << ErrorLines();
+
+    const std::string id = Scalar("SELECT MAX(DispatchID) FROM DispatchAbstract");
+    EXPECT_EQ(Scalar("SELECT CustomerID || '|' || Status || '|' || SalesmanID || '|' || BeatID || '|' || DocReference "
+                     "FROM DispatchAbstract WHERE DispatchID = " + id),
+              "C005|2|1|1|TN/DN/43");
+    const std::string document = Scalar("SELECT DocumentID FROM DispatchAbstract WHERE DispatchID = " + id);
+    EXPECT_EQ(std::stol(document), std::stol(serialBefore) + 1);
+    EXPECT_EQ(Scalar("SELECT LastNumber FROM DocumentNumbers WHERE DocType = 5"), document);
+    // Each line in its unit and in base units, from the batch the clerk chose.
+    EXPECT_EQ(Scalar("SELECT GROUP_CONCAT(printf('%d:%s:%s:%g:%g:%g', Serial, Product_Code, Batch_Number, UOMQty, "
+                     "Quantity, UOMPrice), ',') FROM DispatchDetail WHERE DispatchID = " + id),
+              "1:FD001:MB2401:2:48:216,2:FD002:CB101:10:120:156");
+    EXPECT_EQ(std::stod(batch("MB2401")), std::stod(marieBefore) - 48);
+    EXPECT_EQ(std::stod(batch("CB101")), std::stod(creamBefore) - 120);
+    EXPECT_EQ(Scalar("SELECT COUNT(*) FROM JournalPostings WHERE DocumentID = " + id), "2");
+
+    EXPECT_EQ(LastStatus(), "DispatchID = DN" + document + " has been generated");
+    EXPECT_EQ(f.DTFlexDispatch.GetCell(1, grid::colItemCode), "");
+    EXPECT_EQ(f.txtCustomer.Text(), "");
+    EXPECT_FALSE(f.bInTransaction);
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(SaveTest, EveryCallOfTheSaveFailingLeavesTablesAndGridAsTheyWere) {
+    auto& f = KeyNoteForRavi();
+    const std::string tables = Tables();
+    const std::string cells = GridCells();
+    // The credit gate's look-ups come before the transaction and have handlers of
+    // their own; the calls counted here are the save's, from BeginTrans on.
+    const int before = faults->CallCount();
+    f.CheckCreditGates(1, 1, 2);
+    const int gateCalls = faults->CallCount() - before;
+    int failedCalls = 0;
+    bool saved = false;
+    std::string lastFailureStatus;
+    for (int n = 1; n < 200 && !saved; ++n) {
+        faults->FailNthCall(gateCalls + n);
+        saved = f.SaveDispatch();
+        faults->ClearFaults();
+        if (saved) break;
+        ++failedCalls;
+        lastFailureStatus = LastStatus();
+        ASSERT_TRUE(Tables() == tables) << "call " << n << " failed and left changes";
+        ASSERT_EQ(GridCells(), cells) << "call " << n << " failed and changed the grid";
+        ASSERT_FALSE(database->InTransaction()) << "call " << n;
+    }
+    ASSERT_TRUE(saved);
+    // The credit gate, the abstract, the counter, each line, the posting and the commit.
+    EXPECT_GE(failedCalls, 10);
+    // The last call to fail was the commit: the note had been announced already.
+    EXPECT_NE(lastFailureStatus.find("has been generated"), std::string::npos) << lastFailureStatus;
+    EXPECT_EQ(Scalar("SELECT COUNT(*) FROM DispatchAbstract WHERE CustomerID = 'C005' AND DispatchDate >= '2026-11-22'"), "1");
+}
+
+TEST_F(SaveTest, AStockRefusalOnTheLastRowTakesTheWholeNoteBack) {
+    auto& f = KeyNoteForRavi();
+    // Another clerk has taken most of the batch since the line was keyed.
+    database->ExecuteNative("UPDATE Batch_Products SET Quantity = 3 WHERE Product_Code = 'FD002' AND Batch_Number = 'CB101'");
+    const std::string tables = Tables();
+    const std::string cells = GridCells();
+
+    EXPECT_FALSE(f.SaveDispatch());
+
+    EXPECT_TRUE(Tables() == tables);
+    EXPECT_EQ(GridCells(), cells);
+    EXPECT_EQ(LastStatus(), "Insufficient stock for Cream Biscuit 75g");
+    EXPECT_EQ(f.DTFlexDispatch.GridRow(), 2);
+    EXPECT_EQ(f.DTFlexDispatch.GridCol(), grid::colSalePrice);
+    EXPECT_EQ(f.ActiveControl(), &f.DTFlexDispatch);
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(SaveTest, ACreditRefusalBeginsNothingAndSendsFocusToSave) {
+    auto& f = KeyNoteForRavi();
+    database->ExecuteNative("UPDATE Customer SET CreditLimit = 1 WHERE CustomerID = 'C005'");
+    database->ExecuteNative("DELETE FROM CustomerCreditTerm WHERE CustomerID = 'C005'");
+    settings.Set("GetCreditLimitPasswordEnabled", "true");
+    settings.Set("AdministratorPassword", "s3cret");
+    answers.Queue("InputPassword", {"guess"});
+    const std::string tables = Tables();
+
+    EXPECT_FALSE(f.SaveDispatch());
+
+    EXPECT_TRUE(TranscriptHas("\"Invalid Password\""));
+    EXPECT_EQ(f.ActiveControl(), &f.cmdSave);
+    EXPECT_TRUE(Tables() == tables);
+
+    // The right password lets the same note through.
+    answers.Queue("InputPassword", {"s3cret"});
+    EXPECT_TRUE(f.SaveDispatch()) << ErrorLines();
+}
+
+TEST_F(SaveTest, AQuantityInThreeUnitsStoresARowForEachUnitWithACount) {
+    auto& f = Open(2);
+    Type(f.txtCustomer, "Ravi");
+    Pick(1);
+    Key(f.txtCustomer, 13);
+    auto& grid = f.DTFlexDispatch;
+    f.MoveFocus(grid);
+    grid.UserGoto(1, 1);
+    grid.UserType("FD001");
+    session::PressGridKey(f, grid, 13, 0);
+    grid.UserType("/");
+    grid.UserType("/");
+    grid.UserType("2*0*5");
+    session::PressGridKey(f, grid, 13, 0);
+    ASSERT_EQ(grid.GetCell(1, grid::colQuantity), "2*0*5");
+    f.szEnteredCustomerCode = "C005";
+
+    ASSERT_TRUE(f.SaveDispatch()) << ErrorLines();
+
+    const std::string id = Scalar("SELECT MAX(DispatchID) FROM DispatchAbstract");
+    EXPECT_EQ(Scalar("SELECT GROUP_CONCAT(printf('%g', UOMQty), ',') FROM (SELECT UOM, SUM(UOMQty) AS UOMQty FROM DispatchDetail "
+                     "WHERE DispatchID = " + id + " GROUP BY UOM ORDER BY MIN(DetailID))"),
+              "2,5");
+}
+
+}  // namespace
+}  // namespace screen_test

@@ -1,6 +1,7 @@
 // Stock on hand: saleable and free batches, batches expiring next year and later, a
 // few that expired last month and still hold goods, a batch number priced twice, an
-// exhausted item, and the opening stock of the last week.
+// exhausted item, a batch down to its last carton, and the opening stock of the last
+// week.
 //
 // Quantities are in base units. Free stock carries no price.
 #include "server/demo_data.h"
@@ -42,7 +43,10 @@ INSERT INTO Batch_Products (Batch_Code, Product_Code, Batch_Number, Expiry, PKD,
     (28, 'HC002', 'CS301', {T+365}, {T-60}, 400, 480, 52.00, 66.00, 62.00, 66.00, 85.00, 85.00, 60.00, 0, 12, 6, 60, {T-60}),
     (29, 'HC002', 'CS301', {T+365}, {T-60}, 40, 40, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, {T-60}),
     (30, 'HC003', 'AL77', {T+600}, NULL, 120, 144, 80.00, 101.00, 95.00, 101.00, 125.00, 125.00, 92.00, 0, 12, 6, 60, {T-70}),
-    (31, 'FS001', '', NULL, NULL, 25, 40, 400.00, 480.00, 450.00, 480.00, 550.00, 550.00, 440.00, 0, 5, 1, 0, {T-120});
+    (31, 'FS001', '', NULL, NULL, 25, 40, 400.00, 480.00, 450.00, 480.00, 550.00, 550.00, 440.00, 0, 5, 1, 0, {T-120}),
+    -- The last carton of an older lot of Mango Juice: it expires first, so it is
+    -- offered and taken first, and two clerks dispatching a carton each meet on it.
+    (32, 'BV002', 'MJ10', {T+60}, NULL, 6, 60, 70.00, 85.00, 80.00, 85.00, 99.00, 99.00, 78.00, 0, 12, 1, 0, {T-120});
 
 -- The openings a week ago and today, from the stock as it stands.
 INSERT INTO OpeningDetails (Product_Code, Opening_Date, Opening_Quantity, Free_Saleable_Quantity, Opening_Value)

@@ -186,7 +186,11 @@ CREATE TABLE DispatchDetail (
     MultipleSchemeID TEXT DEFAULT '',
     MultipleSchemeDetails TEXT DEFAULT '',
     MultipleSplCategorySchemeID TEXT DEFAULT '',
-    MultipleSplCategorySchDetail TEXT DEFAULT ''
+    MultipleSplCategorySchDetail TEXT DEFAULT '',
+    -- The customer's category the line was priced by, when the price came from the
+    -- batch (0 otherwise), and whether the note was saved with dated posting on.
+    CustomerCategory INTEGER NOT NULL DEFAULT 0 CHECK (CustomerCategory BETWEEN 0 AND 5),
+    DatedPosting BIT NOT NULL DEFAULT 0
 );
 CREATE INDEX DispatchDetail_Dispatch ON DispatchDetail(DispatchID, Serial);
 CREATE INDEX DispatchDetail_Item ON DispatchDetail(Product_Code);

@@ -4,6 +4,8 @@
 #include "server/procedures/header_procedures.h"
 #include "server/procedures/items_procedures.h"
 #include "server/procedures/parties_procedures.h"
+#include "server/procedures/print_procedures.h"
+#include "server/procedures/save_procedures.h"
 #include "server/procedures/schemes_procedures.h"
 #include "server/procedures/stock_procedures.h"
 
@@ -16,6 +18,8 @@ void RegisterServerObjects(ProcedureRegistry& registry) {
     RegisterSchemeProcedures(registry);
     RegisterItemProcedures(registry);
     RegisterStockProcedures(registry);
+    RegisterSaveProcedures(registry);
+    RegisterPrintProcedures(registry);
 }
 
 }  // namespace server

@@ -1,0 +1,50 @@
+// The reference a saved note is known by, and the running count of its document
+// type. The screen sends a type only when the reference still starts with that
+// type's prefix, so the count moves whenever a type comes: a reference the user
+// edited after the prefix still spends the type's number.
+#include "platform/convert.h"
+#include "server/procedure_arguments.h"
+#include "server/procedure_context.h"
+#include "server/procedure_savepoint.h"
+#include "server/procedures/save_checks.h"
+#include "server/procedures/save_procedures.h"
+
+namespace server::save {
+
+// (transaction type, document type, DispatchID, reference, same reference): writes the
+// reference and the type on the note and moves the type's count; one row, the number
+// the user is told: the dispatch voucher prefix and the note's document number
+// ("DN50"). A note left without a reference is known by that number.
+std::vector<platform::ResultSet> UpdateTransactionSerial(ProcedureContext& context, const platform::ParameterList& parameters) {
+    const ProcedureArguments args("sp_Update_TransactionSerial", parameters,
+                                  {"@TransactionType", "@DocumentType", "@DispatchID", "@DocReference", "@SameReference"});
+    args.ExpectAtMost(5);
+    RequireSupplied(args, 5);
+    const long long transactionType = RequiredInt(args.Int(0), "transaction type");
+    const std::string documentType = platform::Trim(args.TextOr(1, ""));
+    const long long dispatchID = RequiredInt(args.Int(2), "dispatch");
+    const std::string reference = platform::Trim(args.TextOr(3, ""));
+    RequireDispatch(context, dispatchID);
+
+    const std::string number = platform::ToText(context.Scalar(
+        "SELECT IFNULL((SELECT Prefix FROM VoucherPrefix WHERE TranID = 'DISPATCH'), '') || a.DocumentID "
+        "FROM DispatchAbstract a WHERE a.DispatchID = ?",
+        {dispatchID}));
+
+    ProcedureSavepoint savepoint(context, "update_transaction_serial");
+    if (!documentType.empty() &&
+        context.Run("UPDATE TransactionDocNumber SET LastCount = LastCount + 1 WHERE TransactionType = ? AND DocumentType = ?",
+                    {transactionType, documentType}) != 1)
+        Refuse("Document type '" + documentType + "' of transaction type " + std::to_string(transactionType) +
+               " does not exist.");
+    context.Run("UPDATE DispatchAbstract SET DocReference = ?, DocumentType = ? WHERE DispatchID = ?",
+                {reference.empty() ? number : reference, documentType, dispatchID});
+    savepoint.Keep();
+
+    platform::ResultSet answer;
+    answer.columns = {"DocumentID"};
+    answer.rows.push_back({platform::Value(number)});
+    return context.WithRowCount(std::move(answer));
+}
+
+}  // namespace server::save

@@ -1,0 +1,255 @@
+// The save's procedures around the lines: the note's abstract and its number, the
+// reference and the document type's count, the sales confirmations the note was made
+// from, and the credit gate ahead of it all.
+#include <string>
+
+#include "platform/convert.h"
+#include "save_test_support.h"
+
+namespace server::save_test {
+namespace {
+
+using platform::adtype::Date;
+using platform::adtype::Double;
+using platform::adtype::Integer;
+using platform::adtype::VarChar;
+
+// The abstract's parameters as the screen sends them for a note from sales
+// confirmation 1 of Ravi Stores; the amendment's old document number goes second.
+platform::ParameterList AbstractParameters(bool withGroup, const std::string* oldReference = nullptr) {
+    platform::ParameterList list{{"1", VarChar}};
+    if (oldReference) list.push_back({*oldReference, VarChar});
+    list.insert(list.end(), {{platform::DateTime(2024, 3, 1, 10, 45, 0), Date},
+                             {"C005", VarChar},
+                             {"12 Gandhi Road", VarChar},
+                             {"Godown 3", VarChar},
+                             {1, Integer},
+                             {"SC101", VarChar},
+                             {"Memo one", VarChar},
+                             {"Memo two", VarChar},
+                             {"", VarChar},
+                             {"TN/DN/43", VarChar},
+                             {1, Integer},
+                             {1, Integer}});
+    if (withGroup) list.push_back({"1,2", VarChar});
+    return list;
+}
+
+const char* const kLastDispatchNumber = "SELECT LastNumber FROM DocumentNumbers WHERE DocType = 5";
+
+using SaveAbstract = SaveDatabase;
+
+TEST_F(SaveAbstract, StoresTheNoteAndSpendsTheNextNumberOfTheSerial) {
+    const auto results = Call("sp_Save_DispatchAbstract", AbstractParameters(true));
+    ASSERT_EQ(results.size(), 2u) << "it writes first, so the row count comes ahead of the answer";
+    EXPECT_EQ(testkit::RowsText(results.back()), "10|50");
+    EXPECT_EQ(Text(kLastDispatchNumber), "50");
+    EXPECT_EQ(Text("SELECT DispatchDate, CustomerID, BillingAddress, ShippingAddress, Status, RefNumber, NewRefNumber, "
+                   "OriginalReference, Memo1, Memo2, Memo3, DocReference, SalesmanID, BeatID, GroupID, UserName "
+                   "FROM DispatchAbstract WHERE DispatchID = 10"),
+              "D:2024-03-01 10:45:00|C005|12 Gandhi Road|Godown 3|1|1|SC101||Memo one|Memo two||TN/DN/43|1|1|1,2|");
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM DispatchAbstract WHERE DispatchID = 10 AND "
+                      "CreationTime >= datetime('now', 'localtime', '-1 minute')"),
+              1);
+
+    // A note of all categories has no group; the proposal moves on with the serial.
+    EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract", AbstractParameters(false)).back()), "11|51");
+    EXPECT_EQ(Text("SELECT GroupID FROM DispatchAbstract WHERE DispatchID = 11"), "-1");
+    EXPECT_EQ(Answer("sp_get_NewDispatchID", {}).AsInteger(), 52);
+
+    // The caller's rollback takes the number back with the note.
+    db().BeginTrans();
+    EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract", AbstractParameters(true)).back()), "12|52");
+    db().RollbackTrans();
+    EXPECT_EQ(Text(kLastDispatchNumber), "51");
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM DispatchAbstract"), 11);
+}
+
+TEST_F(SaveAbstract, TheReplacementOfAnAmendedNoteKeepsTheOldNumber) {
+    const std::string old = "45";
+    EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract_Amend", AbstractParameters(true, &old)).back()), "10|50");
+    EXPECT_EQ(Text("SELECT OriginalReference, RefNumber, NewRefNumber, DocReference, GroupID FROM DispatchAbstract "
+                   "WHERE DispatchID = 10"),
+              "45|1|SC101|TN/DN/43|1,2");
+    EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract_Amend", AbstractParameters(false, &old)).back()), "11|51");
+    EXPECT_EQ(Text("SELECT GroupID FROM DispatchAbstract WHERE DispatchID = 11"), "-1");
+}
+
+TEST_F(SaveAbstract, RefusesABadNoteAndSpendsNothing) {
+    platform::ParameterList unknownCustomer = AbstractParameters(true);
+    unknownCustomer[2].value = "C999";
+    EXPECT_EQ(Refusal("sp_Save_DispatchAbstract", unknownCustomer), "Customer 'C999' does not exist.");
+    platform::ParameterList closed = AbstractParameters(true);
+    closed[5].value = 129;
+    EXPECT_EQ(Refusal("sp_Save_DispatchAbstract", closed),
+              "A dispatch is stored open; status 129 cannot be given to a new note.");
+    platform::ParameterList noSalesman = AbstractParameters(true);
+    noSalesman[11].value = 99;
+    EXPECT_EQ(Refusal("sp_Save_DispatchAbstract", noSalesman), "DispatchAbstract: unknown salesman or beat");
+    platform::ParameterList tooShort = AbstractParameters(false);
+    tooShort.pop_back();
+    EXPECT_EQ(Refusal("sp_Save_DispatchAbstract", tooShort),
+              "Procedure or function 'sp_Save_DispatchAbstract' expects parameter '@BeatID', which was not supplied.");
+    // The amendment's list is one longer: the new note's full list is short for it.
+    EXPECT_EQ(Refusal("sp_Save_DispatchAbstract_Amend", AbstractParameters(false)),
+              "Procedure or function 'sp_Save_DispatchAbstract_Amend' expects parameter '@BeatID', which was not supplied.");
+
+    EXPECT_EQ(Text(kLastDispatchNumber), "49");
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM DispatchAbstract"), 9);
+}
+
+using TransactionSerial = SaveDatabase;
+
+platform::ParameterList SerialParameters(const std::string& type, long long dispatchID, const std::string& reference,
+                                         int sameReference) {
+    return {{5, Integer}, {type, VarChar}, {dispatchID, Integer}, {reference, VarChar}, {sameReference, Integer}};
+}
+
+TEST_F(TransactionSerial, WritesTheReferenceAndMovesTheCountOfTheTypeSent) {
+    const std::string counts = "SELECT group_concat(DocumentType || '=' || LastCount, ' ') FROM "
+                               "(SELECT * FROM TransactionDocNumber ORDER BY DocumentType)";
+    ASSERT_EQ(Text(counts), "DN-KA=7 DN-OLD=112 DN-TN=42 SC-TN=113");
+
+    // The proposed reference kept: the type's count moves, the user is told the
+    // dispatch number.
+    const long long first = NewNote();
+    EXPECT_EQ(Answer("sp_Update_TransactionSerial", SerialParameters("dn-tn", first, " TN/DN/43 ", 1)),
+              platform::Value("DN50"));
+    EXPECT_EQ(Text(counts), "DN-KA=7 DN-OLD=112 DN-TN=43 SC-TN=113");
+    EXPECT_EQ(Text("SELECT DocReference, DocumentType FROM DispatchAbstract WHERE DispatchID = " + std::to_string(first)),
+              "TN/DN/43|dn-tn");
+
+    // Changed after the prefix, the reference still spends the type's number.
+    const long long second = NewNote();
+    EXPECT_EQ(Answer("sp_Update_TransactionSerial", SerialParameters("DN-KA", second, "KA/DN/8A", 0)),
+              platform::Value("DN51"));
+    EXPECT_EQ(Text(counts), "DN-KA=8 DN-OLD=112 DN-TN=43 SC-TN=113");
+
+    // Without a type no count moves; a note left without a reference is known by its number.
+    const long long third = NewNote();
+    EXPECT_EQ(Answer("sp_Update_TransactionSerial", SerialParameters("", third, "  ", 0)), platform::Value("DN52"));
+    EXPECT_EQ(Text(counts), "DN-KA=8 DN-OLD=112 DN-TN=43 SC-TN=113");
+    EXPECT_EQ(Text("SELECT DocReference, DocumentType FROM DispatchAbstract WHERE DispatchID = " + std::to_string(third)),
+              "DN52|");
+
+    // A type of another transaction, and an unknown note, are refused with nothing changed.
+    EXPECT_EQ(Refusal("sp_Update_TransactionSerial", SerialParameters("SC-TN", third, "TN/SC/114", 1)),
+              "Document type 'SC-TN' of transaction type 5 does not exist.");
+    EXPECT_EQ(Refusal("sp_Update_TransactionSerial", SerialParameters("DN-TN", 999, "TN/DN/44", 1)),
+              "Dispatch 999 does not exist.");
+    EXPECT_EQ(Text(counts), "DN-KA=8 DN-OLD=112 DN-TN=43 SC-TN=113");
+    EXPECT_EQ(Text("SELECT DocReference FROM DispatchAbstract WHERE DispatchID = " + std::to_string(third)), "DN52");
+}
+
+using SalesConfirmations = SaveDatabase;
+
+TEST_F(SalesConfirmations, PendingGoesDownLineByLineAndNeverBelowZero) {
+    // Confirmation 1 holds Marie Biscuit at 240 pending; give it a second priced line
+    // and a free one. Confirmation 4 holds Marie at 48 pending.
+    db().ExecuteScript(
+        "INSERT INTO SODetail (SOLineID, SONumber, Product_Code, SalePrice, Quantity, Pending, UOM, UOMQty, UOMPrice) VALUES "
+        "(101, 1, 'FD001', 9.00, 48, 48, 1, 48, 9.00), (102, 1, 'FD001', 0, 24, 24, 2, 1, 0);");
+    const std::string pending = "SELECT group_concat(SOLineID || '=' || Pending, ' ') FROM "
+                                "(SELECT * FROM SODetail WHERE Product_Code = 'FD001' AND Pending > 0 OR SOLineID IN (1, 11, 101, 102) "
+                                "ORDER BY SOLineID)";
+    auto lower = [&](double quantity, const std::string& confirmations, int free) {
+        return Call("sp_update_sopending",
+                    {{"fd001", VarChar}, {quantity, Double}, {confirmations, VarChar}, {free, Integer}});
+    };
+
+    // 250 priced pieces: line 1 is emptied and line 101 gives the other 10; the free
+    // line and the other confirmation are left alone.
+    const auto results = lower(250, "1", 0);
+    ASSERT_EQ(results.size(), 1u);
+    EXPECT_EQ(results.front().rowsAffected, 2);
+    EXPECT_EQ(Text(pending), "1=0.0 11=48.0 101=38.0 102=24.0");
+    // Free goods lower the free line, and more than is pending stops at 0.
+    lower(30, "1", 1);
+    EXPECT_EQ(Text(pending), "1=0.0 11=48.0 101=38.0 102=0.0");
+    // Across two confirmations, in the order the lines were entered.
+    lower(50, " 1, 4 ", 0);
+    EXPECT_EQ(Text(pending), "1=0.0 11=0.0 101=36.0 102=0.0");
+
+    EXPECT_EQ(Refusal("sp_update_sopending", {{"FD001", VarChar}, {5, Double}, {"1;4", VarChar}, {0, Integer}}),
+              "'1;4' is not a sales confirmation number.");
+    EXPECT_EQ(Refusal("sp_update_sopending", {{"FD001", VarChar}, {-5, Double}, {"4", VarChar}, {0, Integer}}),
+              "The dispatched quantity of item 'FD001' cannot be negative.");
+    EXPECT_EQ(Text(pending), "1=0.0 11=0.0 101=36.0 102=0.0");
+}
+
+TEST_F(SalesConfirmations, AreClosedAndPointAtTheDispatch) {
+    EXPECT_EQ(Call("sp_close_so", {{1, Integer}}).front().rowsAffected, 1);
+    EXPECT_EQ(Call("sp_update_soRefNumber", {{1, Integer}, {50, Integer}}).front().rowsAffected, 1);
+    // Closing keeps the other bits: the cancelled confirmation stays cancelled.
+    Call("sp_close_so", {{12, Integer}});
+    EXPECT_EQ(Text("SELECT group_concat(SONumber || ':' || Status || ':' || DispatchDocID, ' ') FROM SOAbstract "
+                   "WHERE SONumber IN (1, 2, 12)"),
+              "1:128:50 2:0:0 12:192:0");
+    EXPECT_EQ(Refusal("sp_close_so", {{99, Integer}}), "Sales confirmation 99 does not exist.");
+    EXPECT_EQ(Refusal("sp_update_soRefNumber", {{99, Integer}, {50, Integer}}), "Sales confirmation 99 does not exist.");
+}
+
+class CreditGate : public SaveDatabase {
+protected:
+    long long Exceeds(const std::string& customer, const std::string& group, double exposure) {
+        return Answer("sp_CheckCreditLimitExceeds_QAX", {{2, Integer},
+                                                          {1, Integer},
+                                                          {1, Integer},
+                                                          {customer, VarChar},
+                                                          {group, VarChar},
+                                                          {100.0, Double},
+                                                          {exposure, Double},
+                                                          {0.0, Double}})
+            .AsInteger();
+    }
+    void AddBill(int id, const std::string& customer, int dueOffset) {
+        db().ExecuteScript("INSERT INTO InvoiceAbstract (InvoiceID, DocumentID, InvoiceDate, PaymentDate, CustomerID, "
+                           "NetValue, Balance) VALUES (" + std::to_string(id) + ", " + std::to_string(id) +
+                           ", datetime(date('now', 'localtime', '-40 days')), datetime(date('now', 'localtime', '" +
+                           std::to_string(dueOffset) + " days')), '" + customer + "', 500, 500);");
+    }
+};
+
+TEST_F(CreditGate, StopsAnExposureAboveTheLimitOfTheGroupOrElseOfTheCustomer) {
+    // Deepam Supermarket: 5000 on Foods, and 5000 of its own.
+    EXPECT_EQ(Exceeds("C004", "1", 5300), 1);
+    EXPECT_EQ(Exceeds("C004", "1", 5000), 0);  // up to the limit is allowed
+    EXPECT_EQ(Exceeds("C004", "3", 5300), 1);
+    // Bharat Traders has no limit; City Medicals a large one. The limit the screen
+    // sends (0 here) is not the server's measure.
+    EXPECT_EQ(Exceeds("C002", "1", 1e9), 0);
+    EXPECT_EQ(Exceeds("C003", "4", 49000), 0);
+    EXPECT_EQ(Exceeds("C003", "4", 50001), 1);
+}
+
+TEST_F(CreditGate, StopsOverdueBillsAndTooManyOpenOnesByTheTermsOfTheFirstGroupThatHasThem) {
+    // Sakthi Agencies' bill 504 is 30 days overdue, and its Foods and Beverages terms
+    // allow none; another group has no terms, and its ample limit lets it through.
+    EXPECT_EQ(Exceeds("C006", "1,2", 0), 1);
+    EXPECT_EQ(Exceeds("C006", "3", 0), 0);
+    EXPECT_EQ(Exceeds("C006", "3, 2", 0), 1);
+
+    // Lakshmi Provisions on Health Care: 15 days allowed, 3 open bills at most.
+    AddBill(901, "C009", -15);
+    AddBill(902, "C009", 10);
+    EXPECT_EQ(Exceeds("C009", "4", 100), 0) << "15 days overdue is within the terms";
+    db().ExecuteScript("UPDATE InvoiceAbstract SET PaymentDate = datetime(date('now', 'localtime', '-16 days')) "
+                       "WHERE InvoiceID = 901;");
+    EXPECT_EQ(Exceeds("C009", "4", 100), 1);
+    db().ExecuteScript("UPDATE InvoiceAbstract SET Balance = 0 WHERE InvoiceID = 901;");  // paid
+    EXPECT_EQ(Exceeds("C009", "4", 100), 0);
+    AddBill(903, "C009", 20);
+    AddBill(904, "C009", 20);
+    EXPECT_EQ(Exceeds("C009", "4", 100), 1) << "three open bills reach the most allowed";
+    // A cancelled bill counts for nothing.
+    db().ExecuteScript("UPDATE InvoiceAbstract SET Status = 192 WHERE InvoiceID = 904;");
+    EXPECT_EQ(Exceeds("C009", "4", 100), 0);
+
+    EXPECT_EQ(Refusal("sp_CheckCreditLimitExceeds_QAX",
+                      {{2, Integer}, {1, Integer}, {1, Integer}, {"C999", VarChar}, {"1", VarChar}, {0.0, Double},
+                       {0.0, Double}, {0.0, Double}}),
+              "Customer 'C999' does not exist.");
+}
+
+}  // namespace
+}  // namespace server::save_test

@@ -1,0 +1,107 @@
+#include "save_test_support.h"
+
+#include "platform/convert.h"
+#include "platform/runtime_error.h"
+#include "server/database_files.h"
+
+namespace server::save_test {
+
+using platform::adtype::Date;
+using platform::adtype::Double;
+using platform::adtype::Integer;
+using platform::adtype::VarChar;
+
+platform::ParameterList Line::Parameters(bool customerPrice, bool longList) const {
+    const platform::Value day = dispatchDay.IsEmpty() ? platform::Value(SaveDatabase::Today()) : dispatchDay;
+    platform::ParameterList list{{dispatchID, Integer},     {item, VarChar},        {batch, VarChar},
+                                 {originalPrice, Double},   {baseQuantity, Double}, {batchTrack, Integer},
+                                 {trackInventory, Integer}, {customerCategory, Integer},
+                                 {freeItem, Integer},       {freeRow, Integer},     {day, Date},
+                                 {datedPosting, Integer},   {unit, Integer},        {unitQuantity, Double},
+                                 {unitPrice, Double},       {rowNumber, Integer},   {otherGroupItem, Integer}};
+    // Only the customer-price procedure is sent the customer's category.
+    if (!customerPrice) list.erase(list.begin() + 7);
+    if (!longList) {
+        list.insert(list.end(), {{schemeID, Integer}, {freeSerial, VarChar}});
+        return list;
+    }
+    list.insert(list.end(), {{0, Integer},
+                             {freeSerial, VarChar},
+                             {schemeIDs, VarChar},
+                             {splCatSchemeIDs, VarChar},
+                             {splCatScheme, Integer},
+                             {splCatSerial, VarChar},
+                             {schemeIDs, VarChar},
+                             {multiScheme, VarChar},
+                             {splCatSchemeIDs, VarChar},
+                             {multiSplCatScheme, VarChar}});
+    return list;
+}
+
+platform::Value FirstAnswer(const std::vector<platform::ResultSet>& results) {
+    for (const auto& result : results)
+        if (!result.rows.empty()) return result.rows.front().front();
+    return platform::Value::Null();
+}
+
+SaveDatabase::SaveDatabase() : path_(folder_.File("save.db")), db_(CreateDatabase(path_, true)) {}
+
+platform::Date SaveDatabase::Today() { return platform::DateOnly(testkit::LocalNow()); }
+
+std::vector<platform::ResultSet> SaveDatabase::Call(const std::string& name, const platform::ParameterList& parameters) {
+    return db_->CallProcedure(name, parameters);
+}
+
+platform::Value SaveDatabase::Answer(const std::string& name, const platform::ParameterList& parameters) {
+    return FirstAnswer(Call(name, parameters));
+}
+
+std::string SaveDatabase::Refusal(const std::string& name, const platform::ParameterList& parameters) {
+    try {
+        Call(name, parameters);
+    } catch (const platform::RuntimeError& error) {
+        EXPECT_EQ(error.Number(), platform::err::DatabaseError);
+        return error.Description();
+    }
+    return "(no error)";
+}
+
+std::string SaveDatabase::Text(const std::string& sql) { return testkit::RowsText(db_->ExecuteNative(sql)); }
+
+double SaveDatabase::Number(const std::string& sql) {
+    const platform::ResultSet result = db_->ExecuteNative(sql);
+    return result.rows.empty() ? 0 : platform::ToNumber(result.rows.front().front());
+}
+
+long long SaveDatabase::Count(const std::string& sql) { return static_cast<long long>(Number(sql)); }
+
+long long SaveDatabase::NewNote(const std::string& customer) { return NewNote(*db_, customer); }
+
+long long SaveDatabase::NewNote(EmbeddedConnection& connection, const std::string& customer) {
+    const auto results = connection.CallProcedure("sp_Save_DispatchAbstract", {{"", VarChar},
+                                                            {testkit::LocalNow(), Date},
+                                                            {customer, VarChar},
+                                                            {"", VarChar},
+                                                            {"", VarChar},
+                                                            {2, Integer},
+                                                            {"", VarChar},
+                                                            {"", VarChar},
+                                                            {"", VarChar},
+                                                            {"", VarChar},
+                                                            {"", VarChar},
+                                                            {0, Integer},
+                                                            {0, Integer}});
+    return FirstAnswer(results).AsInteger();
+}
+
+long long SaveDatabase::StoreLine(const Line& line, bool customerPrice, bool longList) {
+    return StoreLine(*db_, line, customerPrice, longList);
+}
+
+long long SaveDatabase::StoreLine(EmbeddedConnection& connection, const Line& line, bool customerPrice, bool longList) {
+    const char* name = customerPrice ? "sp_Save_dispatchDetail_csp_UOM_QAX" : "sp_Save_dispatchdetail_UOM_QAX";
+    const platform::Value answer = FirstAnswer(connection.CallProcedure(name, line.Parameters(customerPrice, longList)));
+    return static_cast<long long>(platform::ToNumber(answer));
+}
+
+}  // namespace server::save_test

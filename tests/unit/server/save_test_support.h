@@ -1,0 +1,88 @@
+// Shared by the tests of the save's server objects: a demo database of today's date
+// in a scratch folder, the procedures called as the screen calls them, and a
+// dispatch line with the values the screen would send for it.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "platform/database.h"
+#include "server/embedded_connection.h"
+#include "server_test_support.h"
+
+namespace server::save_test {
+
+// The values of one line, with those of a plain sold line of Marie Biscuit in boxes.
+struct Line {
+    long long dispatchID = 0;
+    std::string item = "FD001";
+    std::string batch;
+    double originalPrice = 9.00;
+    double baseQuantity = 24;
+    int batchTrack = 1;
+    int trackInventory = 1;
+    int customerCategory = 2;  // sent by the customer-price procedure only
+    int freeItem = 0;
+    int freeRow = 0;
+    platform::Value dispatchDay;  // today when left empty
+    int datedPosting = 0;
+    int unit = 2;
+    double unitQuantity = 1;
+    double unitPrice = 216.00;
+    int rowNumber = 1;
+    int otherGroupItem = 0;
+    int schemeID = 0;
+    std::string freeSerial;
+    std::string schemeIDs;
+    std::string splCatSchemeIDs;
+    int splCatScheme = 0;
+    std::string splCatSerial;
+    std::string multiScheme;
+    std::string multiSplCatScheme;
+
+    // The parameters of the procedure the screen picks by price option, short (other-
+    // category-group items on) or long.
+    platform::ParameterList Parameters(bool customerPrice, bool longList) const;
+};
+
+class SaveDatabase : public ::testing::Test {
+public:
+    SaveDatabase();
+
+    EmbeddedConnection& db() { return *db_; }
+    const std::string& Path() const { return path_; }
+
+    // Every result of the call, as the server sends them.
+    std::vector<platform::ResultSet> Call(const std::string& name, const platform::ParameterList& parameters);
+    // Field 0 of the first result that has rows, which is what the screen's host takes
+    // as a procedure's answer; Null when none has.
+    platform::Value Answer(const std::string& name, const platform::ParameterList& parameters);
+    // The refusal the call raises; "(no error)" when it goes through.
+    std::string Refusal(const std::string& name, const platform::ParameterList& parameters);
+
+    // SQLite's own query, as "a|b;c|d" (see testkit::RowsText).
+    std::string Text(const std::string& sql);
+    double Number(const std::string& sql);
+    long long Count(const std::string& sql);
+
+    // A new note of the customer through sp_Save_DispatchAbstract; its DispatchID.
+    long long NewNote(const std::string& customer = "C005");
+    long long NewNote(EmbeddedConnection& connection, const std::string& customer = "C005");
+    // A line stored through the detail procedure: its answer, 1 stored or 0 refused.
+    long long StoreLine(const Line& line, bool customerPrice = false, bool longList = true);
+    long long StoreLine(EmbeddedConnection& connection, const Line& line, bool customerPrice = false, bool longList = true);
+
+    static platform::Date Today();
+
+private:
+    testkit::ScratchFolder folder_;
+    std::string path_;
+    std::shared_ptr<EmbeddedConnection> db_;
+};
+
+// Field 0 of the first result with rows.
+platform::Value FirstAnswer(const std::vector<platform::ResultSet>& results);
+
+}  // namespace server::save_test

@@ -1,7 +1,10 @@
 // The reference a saved note is known by, and the running count of its document
 // type. The screen sends a type only when the reference still starts with that
 // type's prefix, so the count moves whenever a type comes: a reference the user
-// edited after the prefix still spends the type's number.
+// edited after the prefix still spends the type's number. A reference that comes
+// without a type but is an active type's prefix and a number ("TN/DN/43") belongs to
+// that type: the note records it and the type's count moves up to that number, so a
+// proposed reference is never offered twice.
 #include "platform/convert.h"
 #include "server/procedure_arguments.h"
 #include "server/procedure_context.h"
@@ -32,13 +35,28 @@ std::vector<platform::ResultSet> UpdateTransactionSerial(ProcedureContext& conte
         {dispatchID}));
 
     ProcedureSavepoint savepoint(context, "update_transaction_serial");
+    if (documentType.empty()) {
+        const platform::Value owner = context.Scalar(
+            "SELECT DocumentType FROM TransactionDocNumber WHERE TransactionType = ?1 AND Active = 1 AND Prefix <> '' "
+            "AND substr(?2, 1, length(Prefix)) = Prefix AND length(?2) > length(Prefix) "
+            "AND substr(?2, length(Prefix) + 1) NOT GLOB '*[^0-9]*' ORDER BY length(Prefix) DESC LIMIT 1",
+            {transactionType, reference});
+        if (!owner.IsNull()) {
+            context.Run("UPDATE TransactionDocNumber SET LastCount = MAX(LastCount, CAST(substr(?1, length(Prefix) + 1) "
+                        "AS INTEGER)) WHERE TransactionType = ?2 AND DocumentType = ?3",
+                        {reference, transactionType, owner});
+            context.Run("UPDATE DispatchAbstract SET DocumentType = ? WHERE DispatchID = ?", {owner, dispatchID});
+        }
+    }
     if (!documentType.empty() &&
         context.Run("UPDATE TransactionDocNumber SET LastCount = LastCount + 1 WHERE TransactionType = ? AND DocumentType = ?",
                     {transactionType, documentType}) != 1)
         Refuse("Document type '" + documentType + "' of transaction type " + std::to_string(transactionType) +
                " does not exist.");
-    context.Run("UPDATE DispatchAbstract SET DocReference = ?, DocumentType = ? WHERE DispatchID = ?",
-                {reference.empty() ? number : reference, documentType, dispatchID});
+    context.Run("UPDATE DispatchAbstract SET DocReference = ? WHERE DispatchID = ?",
+                {reference.empty() ? number : reference, dispatchID});
+    if (!documentType.empty())
+        context.Run("UPDATE DispatchAbstract SET DocumentType = ? WHERE DispatchID = ?", {documentType, dispatchID});
     savepoint.Keep();
 
     platform::ResultSet answer;

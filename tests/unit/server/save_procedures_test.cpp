@@ -132,12 +132,23 @@ TEST_F(TransactionSerial, WritesTheReferenceAndMovesTheCountOfTheTypeSent) {
     EXPECT_EQ(Text("SELECT DocReference, DocumentType FROM DispatchAbstract WHERE DispatchID = " + std::to_string(third)),
               "DN52|");
 
+    // A reference that comes without a type but is a type's prefix and a number
+    // belongs to that type: its count moves up to the number, never down.
+    const long long fourth = NewNote();
+    Answer("sp_Update_TransactionSerial", SerialParameters("", fourth, "TN/DN/44", 0));
+    EXPECT_EQ(Text(counts), "DN-KA=8 DN-OLD=112 DN-TN=44 SC-TN=113");
+    EXPECT_EQ(Text("SELECT DocumentType FROM DispatchAbstract WHERE DispatchID = " + std::to_string(fourth)), "DN-TN");
+    Answer("sp_Update_TransactionSerial", SerialParameters("", NewNote(), "TN/DN/40", 0));
+    Answer("sp_Update_TransactionSerial", SerialParameters("", NewNote(), "TN/DN/4x", 0));
+    Answer("sp_Update_TransactionSerial", SerialParameters("", NewNote(), "OLD/500", 0));  // a closed type
+    EXPECT_EQ(Text(counts), "DN-KA=8 DN-OLD=112 DN-TN=44 SC-TN=113");
+
     // A type of another transaction, and an unknown note, are refused with nothing changed.
     EXPECT_EQ(Refusal("sp_Update_TransactionSerial", SerialParameters("SC-TN", third, "TN/SC/114", 1)),
               "Document type 'SC-TN' of transaction type 5 does not exist.");
     EXPECT_EQ(Refusal("sp_Update_TransactionSerial", SerialParameters("DN-TN", 999, "TN/DN/44", 1)),
               "Dispatch 999 does not exist.");
-    EXPECT_EQ(Text(counts), "DN-KA=8 DN-OLD=112 DN-TN=43 SC-TN=113");
+    EXPECT_EQ(Text(counts), "DN-KA=8 DN-OLD=112 DN-TN=44 SC-TN=113");
     EXPECT_EQ(Text("SELECT DocReference FROM DispatchAbstract WHERE DispatchID = " + std::to_string(third)), "DN52");
 }
 

@@ -141,7 +141,7 @@ TEST(SchemaScript, ComparesTextWithoutRegardToCase) {
 }
 
 TEST(SchemaDocumentation, DescribesEveryTable) {
-    const auto docs = std::filesystem::path(__FILE__).parent_path() / "../../../docs/schema.md";
+    const auto docs = std::filesystem::path(DISPATCH_SOURCE_DIR) / "docs/schema.md";
     std::ifstream file(docs);
     ASSERT_TRUE(file) << docs;
     std::stringstream text;

@@ -35,31 +35,35 @@ void Zuro_frmDispatch_Dispatch::DispatchBatchDetails(const std::string& szItemCo
         const double dPrice = platform::Val(szPrice);
         auto shownWidth = [&](int column) { return list.ColumnHeaders.at(static_cast<std::size_t>(column)).Width > 0; };
 
+        // The walk leaves nIndex on the entry it stopped at: the match, or the last
+        // entry when none matched.
         int nIndex = 0;
         if (nBatchTrack != 0) {
-            for (int i = 1; i <= list.Count() && nIndex == 0; ++i) {
+            bool bMatched = false;
+            for (int i = 1; i <= list.Count() && !bMatched; ++i) {
+                nIndex = i;
                 const platform::ListItem& entry = list.Item(i);
                 if (platform::LCase(entry.Text) != platform::LCase(szBatch)) continue;
                 const bool bSameFree = entry.SubItem(grid::kSubFree) == szFreeMark;
                 if (bAmending && shownWidth(grid::kListBatchColumn)) {
                     if (!bSameFree) continue;
-                    nIndex = i;
+                    bMatched = true;
                     PreserveOriginalQty(szBatch, grid::MonthYear(platform::Value(szStoredExpiry)),
                                         grid::MonthYear(platform::Value(szStoredPKD)), dPrice, dRowStoredQty);
                 } else if (bAmending) {
                     const bool bSamePrice = !shownWidth(grid::kListPriceColumn) || entry.SubItem(grid::kSubPrice) == szPriceText;
                     if (!bSamePrice || !bSameFree) continue;
-                    nIndex = i;
+                    bMatched = true;
                     AddUnBatchQty(szBatch, dPrice, dRowStoredQty, bFreeRow ? 1 : 0);
                 } else if (nPriceOption == 1) {
-                    if (dPrice == platform::Val(entry.SubItem(grid::kSubPrice)) && bSameFree) nIndex = i;
-                } else if (bSameFree) {
-                    nIndex = i;
+                    bMatched = dPrice == platform::Val(entry.SubItem(grid::kSubPrice)) && bSameFree;
+                } else {
+                    bMatched = bSameFree;
                 }
             }
             // A batch the stock no longer shows (spent, or expired since) comes back
             // for the line of the note that holds it.
-            if (bAmending && nIndex == 0) {
+            if (bAmending && !bMatched) {
                 if (!szBatch.empty()) AddBatchInfo(szBatch, dRowStoredQty, dPrice, nBatchCode);
             } else if (nIndex > 0) {
                 list.Select(nIndex);
@@ -82,8 +86,10 @@ void Zuro_frmDispatch_Dispatch::DispatchBatchDetails(const std::string& szItemCo
         } else {
             bool bFound = false;
             if (dRowStoredQty > 0 || bFreeRow) {
-                for (int i = 1; i <= list.Count() && !bFound; ++i)
-                    if (list.Item(i).SubItem(grid::kSubPrice) == szPriceText) nIndex = i, bFound = true;
+                for (int i = 1; i <= list.Count() && !bFound; ++i) {
+                    nIndex = i;
+                    bFound = list.Item(i).SubItem(grid::kSubPrice) == szPriceText;
+                }
                 if (nMode != mode::FromSalesConfirmation) {
                     if (bFound)
                         AddUnBatchQty("Null", dPrice, dRowStoredQty, bFreeRow ? 1 : 0);

@@ -93,8 +93,6 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_KeyCode(int& KeyCode, int Shift) 
             if (global.MoveListSelection(lstAvailable, KeyCode)) {
                 objBatchEntry = lstAvailable.SelectedIndex();
                 TakeFromBatchEntry(nRow, nCol);
-                // The arrow walked the batch list; the grid's row stays where it is.
-                KeyCode = 0;
             }
         }
         if (!FrameAvailable.Visible && dUOMRate != 0 && !bQtyRefused) {

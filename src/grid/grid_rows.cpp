@@ -71,8 +71,8 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_RowColChange(int nRow, int nCol) 
             cmdChange.Visible = false;
         }
 
-        // A batch-tracked row without a batch takes the first batch of the list as if
-        // the user had pressed Enter there.
+        // A batch-tracked row without a batch takes the list's selected entry as if the
+        // user had pressed Enter there.
         if (FrameAvailable.Visible && lstAvailable.Count() > 0 && cell(colBatch).empty() && !grid.IsBlankRow(nRow) &&
             number(colBatchTrack) == 1) {
             int nKey = 13;

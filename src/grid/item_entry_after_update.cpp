@@ -15,7 +15,7 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_AfterColUpdate(int nRow, int nCol
                 if ((nMode == mode::NewDispatch || nMode == mode::Amendment) && !edit.ItemEntered(nCol)) return;
                 break;
             case grid::colUOM:
-                if (!edit.UnitChosen()) return;
+                edit.UnitChosen();
                 break;
             case grid::colQuantity:
                 if (!edit.QuantityEntered()) return;

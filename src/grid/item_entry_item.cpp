@@ -40,10 +40,9 @@ bool ItemEntryEdit::ItemEntered(int nCol) {
     }
     if (bRestricted && !ItemInDispatchGroup(byCode ? szCode : szFound)) return false;
 
-    if (szFound.empty()) {
-        Refuse("Invalid Item selected");
-        return false;
-    }
+    // An item not found keeps the cell open, yet the row goes on as for any item:
+    // the other column takes the empty look-up and the edit runs the common tail.
+    if (szFound.empty()) Refuse("Invalid Item selected");
 
     const int nOtherCol = byCode ? colItemName : colItemCode;
     // A different item has no unit yet; LoadItemUOM gives it its own.

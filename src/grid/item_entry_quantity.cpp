@@ -11,12 +11,11 @@ namespace {
 constexpr const char* kSyntaxRefusal = "Either the syntax is incorrect or multiple UOM's are not valid for this item.";
 }  // namespace
 
-bool ItemEntryEdit::UnitChosen() {
-    // A unit must come from the list; a typed one is refused.
-    const bool bRefused = form_.lstUOM.ListIndex() == -1 && form_.bUOMTyped;
-    if (bRefused) Refuse("Invalid UOM Selected");
+void ItemEntryEdit::UnitChosen() {
+    // A unit must come from the list; a typed one keeps the cell open, and the
+    // edit still runs the common tail.
+    if (form_.lstUOM.ListIndex() == -1 && form_.bUOMTyped) Refuse("Invalid UOM Selected");
     form_.bUOMTyped = false;
-    return !bRefused;
 }
 
 bool ItemEntryEdit::QuantityEntered() {

@@ -14,7 +14,7 @@ public:
         : form_(form), host_(host), grid_(form.DTFlexDispatch), nRow_(nRow), bCancel_(bCancel) {}
 
     bool ItemEntered(int nCol);      // A
-    bool UnitChosen();               // B
+    void UnitChosen();               // B
     bool QuantityEntered();          // B2
     void CommonTail(int nCol);       // C
 

@@ -32,10 +32,10 @@ void Zuro_frmDispatch_Dispatch::lstUOM_KeyDown(int& KeyCode, int Shift) {
         if ((KeyCode != kKeyEnter && KeyCode != kKeyEscape) || Shift != 0) return;
         lstUOM.Visible = false;
         ApplyUOMChange(true);
-        // The unit's text lands in the unit cell before the cursor goes on to the
-        // quantity, so that the quantity cell never receives it.
-        if (!host_.global.GetListGuard()) DTFlexDispatch.ChooseFromList(lstUOM.List(lstUOM.ListIndex()), false);
+        // The cursor is on the quantity before the list's choice is put in the
+        // current cell, so outside the guard the quantity cell receives it.
         DTFlexDispatch.SetGridCol(grid::colQuantity);
+        if (!host_.global.GetListGuard()) DTFlexDispatch.ChooseFromList(lstUOM.List(lstUOM.ListIndex()), false);
     });
 }
 

@@ -45,10 +45,17 @@ int PlainGlobal::AddressEnterStep(int& keyCode) {
     return 0;
 }
 
+// Enter takes the entry the list stands on (the first when none is selected) as
+// the user's choice: the screen simulates Enter so that a batch-tracked row takes
+// its batch without a key press, and that needs an answer of "moved".
 bool PlainGlobal::MoveListSelection(platform::ListView& list, int keyCode) {
     int count = list.Count();
     if (count == 0) return false;
     int from = list.SelectedIndex();
+    if (keyCode == kKeyEnter) {
+        if (from < 1) list.Select(1);
+        return true;
+    }
     int to = from;
     switch (keyCode) {
         case kKeyUp: to = from > 1 ? from - 1 : from; break;

@@ -76,8 +76,10 @@ void Zuro_frmDispatch_Dispatch::CheckForGroupChange(const std::string& szGroup, 
         }
 
         const std::string szPrevName = nInd == 4 ? host_.messages.GetLabel(szPrevGroupName) : szPrevGroupName;
-        // All categories holds every item already taken: nothing to ask.
-        if (parties::IsAllCategoriesText(szGroup, host_.messages) || platform::Trim(szGroup) == "0") return;
+        // All categories holds every item already taken: nothing to ask. The tag "0"
+        // that the category box gives all categories is not that text, so the box's
+        // own change is asked about.
+        if (parties::IsAllCategoriesText(szGroup, host_.messages)) return;
 
         const long nMessage = nInd == 4 ? kMessageCategoryChange : kMessageGroupChange;
         const int nAnswer =

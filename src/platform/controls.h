@@ -121,7 +121,7 @@ public:
     void RemoveItem(int index);
     void Clear();
     int ListCount() const { return static_cast<int>(entries_.size()); }
-    const std::string& List(int index) const;       // error 381 outside the list
+    const std::string& List(int index) const;       // -1 reads as ""; error 381 elsewhere outside the list
     long ItemData(int index) const;
     void SetItemData(int index, long value);
     int ListIndex() const { return listIndex_; }

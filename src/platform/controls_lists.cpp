@@ -32,6 +32,10 @@ void ListControl::Clear() {
 }
 
 const std::string& ListControl::List(int index) const {
+    // List(ListIndex) with nothing selected reads as empty text, as the runtime's
+    // lists always answered; any other index outside the list is error 381.
+    static const std::string kNoEntry;
+    if (index == -1) return kNoEntry;
     if (index < 0 || index >= ListCount()) throw RuntimeError(kInvalidArrayIndex);
     return entries_[static_cast<std::size_t>(index)].text;
 }

@@ -49,7 +49,9 @@ int AskToPrint(host_services::HostServices& host) {
 }  // namespace
 
 void Zuro_frmDispatch_Dispatch::PrintSavedDispatch(long nDispatchID) {
-    int nAnswer = AnswerCancel;
+    // A print mode the host does not know leaves no answer at all, and the note
+    // prints through the dialog without its flag.
+    int nAnswer = 0;
     switch (host_.global.GetPrintOnSaveMode()) {
         case 0: nAnswer = AnswerNo; break;
         case 1: nAnswer = AskToPrint(host_); break;

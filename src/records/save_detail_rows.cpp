@@ -141,8 +141,8 @@ bool Zuro_frmDispatch_Dispatch::SaveDetailPass(long r, const DetailPass& pass) {
         global.ShowStatus("Data error", 1);
         return false;
     }
-    const platform::Value* stored = FirstRowField(result);
-    if (stored && global.ToNumber(*stored) == 0) {
+    // An answer without a row has no field 0: the run-time error takes the note back.
+    if (global.ToNumber(result->Fields(0)) == 0) {
         // Not enough stock: the note goes back and the user lands on the row's price.
         result->Close();
         global.GetConnection().RollbackTrans();

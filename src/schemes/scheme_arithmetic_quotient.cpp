@@ -130,6 +130,9 @@ double CountBySubtraction(double dividend, double divider) {
     double left = SnapThroughText(dividend);
     double quotient = 0;
     if (!(step <= left)) return quotient;
+    // Counting by a divider of 0 (or below) would never end. Every caller tests the
+    // divider for 0 first and takes its other path, so none meets this refusal; it
+    // stands so that a future caller gets error 5 instead of a hung screen.
     if (step <= 0) throw platform::RuntimeError(platform::err::InvalidCall);
 
     while (step <= left) {

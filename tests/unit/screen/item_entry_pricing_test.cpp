@@ -53,7 +53,9 @@ TEST_F(ItemPricing, ACodeTypedFindsItsNameAndAnUnknownOneIsRefused) {
     SetCell(grid::colItemName, "No Such Item");
     EXPECT_TRUE(EndItemEdit(grid::colItemName));
     EXPECT_EQ(LastStatus(), "Invalid Item selected");
-    EXPECT_EQ(Cell(grid::colItemCode), "FD003");
+    // The refusal keeps the cell open, and the row still takes the empty look-up.
+    EXPECT_EQ(Cell(grid::colItemCode), "");
+    EXPECT_EQ(Cell(grid::colUOMID), "");
 }
 
 TEST_F(ItemPricing, AnItemOutsideTheNotesGroupGetsMessage13) {

@@ -20,7 +20,7 @@ protected:
     // from the batch two steps down its stock list, CB101.
     screen::Zuro_frmDispatch_Dispatch& KeyNoteForRavi();
     // One line: the item code typed and entered, the list walked down, the quantity.
-    void KeyLine(int row, const std::string& itemCode, const std::string& quantity, int batchSteps = 0);
+    void KeyLine(int row, const std::string& itemCode, const std::string& quantity, int batchEntry = 1);
 
     // Every row of every table, in key order.
     std::string Tables();

@@ -19,9 +19,15 @@ void FaultInjectingConnection::FailMatching(std::string fragment) {
     fragments_.push_back(UCase(fragment));
 }
 
+void FaultInjectingConnection::AnswerWithoutRows(std::string procedure) {
+    if (procedure.empty()) throw RuntimeError(err::InvalidCall);
+    emptyAnswers_.insert(UCase(procedure));
+}
+
 void FaultInjectingConnection::ClearFaults() {
     failingCalls_.clear();
     fragments_.clear();
+    emptyAnswers_.clear();
     callCount_ = 0;
 }
 
@@ -53,7 +59,16 @@ RecordsetPtr FaultInjectingConnection::Execute(const std::string& sql) {
 
 RecordsetPtr FaultInjectingConnection::RunProcedure(const std::string& name, const ParameterList& parameters) {
     CountAndMaybeFail({RecordedCall::Kind::Procedure, name, parameters}, MatchesProcedure(name));
-    return inner_->RunProcedure(name, parameters);
+    RecordsetPtr answer = inner_->RunProcedure(name, parameters);
+    if (!answer || emptyAnswers_.count(UCase(name)) == 0) return answer;
+    // The same results with their fields, every row taken out.
+    std::vector<ResultSet> emptied;
+    do {
+        ResultSet result = answer->Current();
+        result.rows.clear();
+        emptied.push_back(std::move(result));
+    } while (answer->NextRecordset());
+    return std::make_shared<Recordset>(std::move(emptied));
 }
 
 void FaultInjectingConnection::BeginTrans() {

@@ -31,6 +31,9 @@ public:
     // Every statement containing the fragment, and every procedure of that name,
     // fails; case is ignored. An empty fragment is refused.
     void FailMatching(std::string fragment);
+    // The procedure of that name runs as usual, and its answer comes back with its
+    // fields and no row; case is ignored.
+    void AnswerWithoutRows(std::string procedure);
     void ClearFaults();
     // Calls that could fail (all but rollbacks) since construction or ClearFaults.
     int CallCount() const { return callCount_; }
@@ -45,6 +48,7 @@ private:
     int callCount_ = 0;
     std::set<int> failingCalls_;
     std::vector<std::string> fragments_;
+    std::set<std::string> emptyAnswers_;
 };
 
 }  // namespace platform

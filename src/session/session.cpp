@@ -46,6 +46,8 @@ host::PlainHost& Session::Host(const ScriptCommand& command) {
     } catch (const std::exception& e) {
         throw ScriptError(command.line, e.what());
     }
+    faults_ = std::make_shared<platform::FaultInjectingConnection>(connection);
+    connection = faults_;
     if (options_.traceSql) connection = TraceStatements(connection, transcript);
     host_ = std::make_unique<host::PlainHost>(connection, settings, transcript, answers);
     host_->SetOutputFolder(printFolder);
@@ -55,6 +57,11 @@ host::PlainHost& Session::Host(const ScriptCommand& command) {
         throw ScriptError(command.line, e.what());
     }
     return *host_;
+}
+
+platform::FaultInjectingConnection& Session::Faults(const ScriptCommand& command) {
+    Host(command);
+    return *faults_;
 }
 
 ScreenOpener& Session::Opener() {

@@ -12,6 +12,7 @@
 #include "host/plain_host.h"
 #include "host/settings.h"
 #include "host/transcript.h"
+#include "platform/fault_connection.h"
 #include "platform/grid.h"
 #include "screen/routine_table.h"
 #include "screen/screen_form.h"
@@ -40,6 +41,8 @@ public:
     SessionDatabase& Database() { return database_; }
     // The host, made on first use over the session's database.
     host::PlainHost& Host(const ScriptCommand& command);
+    // The faults a script may plant between the screen and its database.
+    platform::FaultInjectingConnection& Faults(const ScriptCommand& command);
     ScreenOpener& Opener();
 
     // A screen has opened (or the entry point opened none: nullptr).
@@ -69,6 +72,7 @@ private:
     SessionDatabase database_;
     // Declared after the database and before the screens: the host outlives every
     // form that holds its services.
+    std::shared_ptr<platform::FaultInjectingConnection> faults_;
     std::unique_ptr<host::PlainHost> host_;
     std::unique_ptr<ScreenOpener> opener_;
     screen::ScreenForm* form_ = nullptr;

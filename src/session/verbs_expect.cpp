@@ -142,6 +142,23 @@ void Cell(Session& session, const ScriptCommand& command) {
     CheckText(session, command, grid.GetCell(static_cast<int>(row), static_cast<int>(col)));
 }
 
+void Current(Session& session, const ScriptCommand& command) {
+    RequireArguments(command, 3, 3, "current ROW COL");
+    auto& grid = session.Grid(command);
+    long row = IntegerWord(command, 2, "the row");
+    long col = IntegerWord(command, 3, "the column");
+    Check(session, command, grid.GridRow() == row && grid.GridCol() == col,
+          fmt::format("was {} {}", grid.GridRow(), grid.GridCol()));
+}
+
+void Selected(Session& session, const ScriptCommand& command) {
+    RequireArguments(command, 3, 3, "selected CONTROL N");
+    auto& control = session.ControlArgument(command, 2);
+    auto* list = dynamic_cast<platform::ListView*>(&control);
+    if (!list) throw ScriptError(command.line, fmt::format("{} is not a list view", control.FullName()));
+    CheckNumber(session, command, list->SelectedIndex());
+}
+
 void Rows(Session& session, const ScriptCommand& command) {
     RequireArguments(command, 2, 2, "rows N");
     CheckNumber(session, command, session.Grid(command).GridRows());
@@ -176,7 +193,7 @@ const std::map<std::string, ExpectHandler>& Checks() {
         {"text", Text},     {"tag", Tag},         {"caption", Caption},   {"visible", Visible},
         {"enabled", Enabled}, {"field", Field},   {"list", List},         {"items", Items},
         {"checked", Checked}, {"cell", Cell},     {"rows", Rows},         {"sql", Sql},
-        {"result", Result}, {"errors", Errors},
+        {"result", Result}, {"errors", Errors},   {"current", Current}, {"selected", Selected},
     };
     return checks;
 }

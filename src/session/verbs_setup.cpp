@@ -59,9 +59,26 @@ void Answer(Session& session, const ScriptCommand& command) {
     session.answers.Queue(dialog, std::move(values));
 }
 
+// A server fault planted for the rest of the script: every call of a statement
+// containing the text, or of a procedure of that name, fails; or a procedure's
+// answer comes back without a row.
+void Fault(Session& session, const ScriptCommand& command) {
+    RequireArguments(command, 2, 2, "fail \"TEXT\" or no-rows PROCEDURE");
+    const std::string& kind = command.Argument(1);
+    const std::string& target = command.Argument(2);
+    if (target.empty()) throw ScriptError(command.line, "fault needs a statement text or a procedure name");
+    if (kind == "fail")
+        session.Faults(command).FailMatching(target);
+    else if (kind == "no-rows")
+        session.Faults(command).AnswerWithoutRows(target);
+    else
+        throw ScriptError(command.line, "fault takes fail or no-rows");
+}
+
 }  // namespace
 
 void AddSetupVerbs(VerbTable& verbs) {
+    verbs["fault"] = Fault;
     verbs["database"] = Database;
     verbs["sql"] = Sql;
     verbs["setting"] = Setting;

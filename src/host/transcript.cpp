@@ -49,11 +49,15 @@ void Transcript::Error(long number, const std::string& text) {
     Line("error " + std::to_string(number) + " " + text);
 }
 
-void Transcript::Print(const std::string& detail) { Line("print " + detail); }
+void Transcript::Print(const std::string& detail) {
+    prints_.push_back(detail);
+    Line("print " + detail);
+}
 void Transcript::Sql(const std::string& text) { Line("sql " + text); }
 void Transcript::Proc(const std::string& text) { Line("proc " + text); }
 
 std::vector<std::string> Transcript::TakeMessages() { return std::exchange(messages_, {}); }
 std::vector<long> Transcript::TakeNumbered() { return std::exchange(numbered_, {}); }
+std::vector<std::string> Transcript::TakePrints() { return std::exchange(prints_, {}); }
 
 }  // namespace host

@@ -41,6 +41,8 @@ public:
     // Message texts and numbers shown since the last Take; taking empties them.
     std::vector<std::string> TakeMessages();
     std::vector<long> TakeNumbered();
+    // The details of documents printed since the last Take.
+    std::vector<std::string> TakePrints();
 
 private:
     std::vector<std::string> lines_;
@@ -49,6 +51,7 @@ private:
     int errorCount_ = 0;
     std::vector<std::string> messages_;
     std::vector<long> numbered_;
+    std::vector<std::string> prints_;
 };
 
 }  // namespace host

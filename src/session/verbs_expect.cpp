@@ -57,6 +57,23 @@ void Numbered(Session& session, const ScriptCommand& command) {
           shown.empty() ? "no numbered message was shown" : fmt::format("shown: {}", fmt::join(shown, ", ")));
 }
 
+// A document printed since the last such check, named without the file it went
+// to: "Dispatch 10 (dialog, flag 0)" for "Dispatch 10 -> FILE (dialog, flag 0)".
+void Printed(Session& session, const ScriptCommand& command) {
+    RequireArguments(command, 2, 2, "printed \"TEXT\"");
+    std::vector<std::string> shown;
+    for (std::string detail : session.transcript.TakePrints()) {
+        const auto arrow = detail.find(" -> ");
+        const auto route = detail.rfind(" (");
+        if (arrow != std::string::npos && route != std::string::npos && route > arrow) detail.erase(arrow, route - arrow);
+        shown.push_back(detail);
+    }
+    const bool held = std::find(shown.begin(), shown.end(), command.Argument(2)) != shown.end();
+    std::vector<std::string> quoted;
+    for (const auto& text : shown) quoted.push_back(Quote(text));
+    Check(session, command, held, shown.empty() ? "nothing was printed" : "printed: " + Join(quoted, ", "));
+}
+
 void Focus(Session& session, const ScriptCommand& command) {
     RequireArguments(command, 2, 2, "focus CONTROL");
     auto& control = session.ControlArgument(command, 2);
@@ -193,7 +210,7 @@ const std::map<std::string, ExpectHandler>& Checks() {
         {"text", Text},     {"tag", Tag},         {"caption", Caption},   {"visible", Visible},
         {"enabled", Enabled}, {"field", Field},   {"list", List},         {"items", Items},
         {"checked", Checked}, {"cell", Cell},     {"rows", Rows},         {"sql", Sql},
-        {"result", Result}, {"errors", Errors},   {"current", Current}, {"selected", Selected},
+        {"result", Result}, {"errors", Errors},   {"current", Current}, {"selected", Selected}, {"printed", Printed},
     };
     return checks;
 }

@@ -11,7 +11,8 @@
 // not read from the caller's words, and after the call is reported under its
 // registered name, in parameter order. One the routine also reads (a key handler's
 // KeyCode) is registered as InOut: it takes a word in its place like any other and
-// is reported too. The routine's return value is the call's result.
+// is reported too. A trailing parameter registered as Optional may be left out; its
+// fallback word is read in its place. The routine's return value is the call's result.
 //
 // The words are counted and converted before the routine runs; a missing, surplus or
 // malformed word raises RoutineRefused and the routine does not run at all.

@@ -1,13 +1,10 @@
 // The salesman, beat and category group boxes' events, and the party routines and
 // fields a host holding the form may reach by name.
-#include <stdexcept>
-
 #include "platform/convert.h"
-#include "screen/routine_arguments.h"
+#include "screen/routine_binder.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
-
 
 void Zuro_frmDispatch_Dispatch::WirePartyEvents() {
     txtSalesman.Change.Connect([this] { txtSalesman_Change(); });
@@ -20,110 +17,51 @@ void Zuro_frmDispatch_Dispatch::WirePartyEvents() {
     txtCategory.LostFocus.Connect([this] { txtCategory_LostFocus(); });
 
     using Self = Zuro_frmDispatch_Dispatch;
-    auto plain = [this](const char* name, void (Self::*routine)()) {
-        routines_.Add(name, [this, routine](RoutineCall& call) {
-            RoutineArguments(call, 0, 0);
-            (this->*routine)();
-        });
-    };
-    for (auto [name, routine] : std::initializer_list<std::pair<const char*, void (Self::*)()>>{
-             {"LoadSalesman", &Self::LoadSalesman},
-             {"LoadBeat", &Self::LoadBeat},
-             {"LoadCustomer", &Self::LoadCustomer},
-             {"LoadDefaultBeatSalesman", &Self::LoadDefaultBeatSalesman},
-             {"LoadPreviousValues", &Self::LoadPreviousValues},
-             {"ResetCatGrp", &Self::ResetCatGrp},
-             {"ClearSalesman", &Self::ClearSalesman},
-             {"ClearBeat", &Self::ClearBeat},
-             {"ClearCategoryGroup", &Self::ClearCategoryGroup},
-             {"txtSalesman_Change", &Self::txtSalesman_Change},
-             {"txtSalesman_LostFocus", &Self::txtSalesman_LostFocus},
-             {"txtBeat_Change", &Self::txtBeat_Change},
-             {"txtBeat_LostFocus", &Self::txtBeat_LostFocus},
-             {"txtCategory_LostFocus", &Self::txtCategory_LostFocus},
-             {"CheckTinNumber", &Self::CheckTinNumber}})
-        plain(name, routine);
+    RoutineBinder routines(routines_, *this);
+    routines.Bind("LoadSalesman", &Self::LoadSalesman, {});
+    routines.Bind("LoadBeat", &Self::LoadBeat, {});
+    routines.Bind("LoadCustomer", &Self::LoadCustomer, {});
+    routines.Bind("LoadDefaultBeatSalesman", &Self::LoadDefaultBeatSalesman, {});
+    routines.Bind("LoadPreviousValues", &Self::LoadPreviousValues, {});
+    routines.Bind("ResetCatGrp", &Self::ResetCatGrp, {});
+    routines.Bind("ClearSalesman", &Self::ClearSalesman, {});
+    routines.Bind("ClearBeat", &Self::ClearBeat, {});
+    routines.Bind("ClearCategoryGroup", &Self::ClearCategoryGroup, {});
+    routines.Bind("txtSalesman_Change", &Self::txtSalesman_Change, {});
+    routines.Bind("txtSalesman_LostFocus", &Self::txtSalesman_LostFocus, {});
+    routines.Bind("txtBeat_Change", &Self::txtBeat_Change, {});
+    routines.Bind("txtBeat_LostFocus", &Self::txtBeat_LostFocus, {});
+    routines.Bind("txtCategory_LostFocus", &Self::txtCategory_LostFocus, {});
+    routines.Bind("CheckTinNumber", &Self::CheckTinNumber, {});
 
-    auto withResult = [this](const char* name, auto (Self::*routine)()) {
-        routines_.Add(name, [this, routine](RoutineCall& call) {
-            RoutineArguments(call, 0, 0);
-            call.result = platform::Value((this->*routine)());
-        });
-    };
-    withResult("GetSalesmanID", &Self::GetSalesmanID);
-    withResult("GetBeatID", &Self::GetBeatID);
-    withResult("GetSalesmanName", &Self::GetSalesmanName);
-    withResult("GetBeatName", &Self::GetBeatName);
-    withResult("GetGroupID", &Self::GetGroupID);
-    withResult("GetGroupName", &Self::GetGroupName);
-    withResult("ValidSalesman", &Self::ValidSalesman);
-    withResult("ValidBeat", &Self::ValidBeat);
-    withResult("ValidCatGroup", &Self::ValidCatGroup);
+    routines.Bind("GetSalesmanID", &Self::GetSalesmanID, {});
+    routines.Bind("GetBeatID", &Self::GetBeatID, {});
+    routines.Bind("GetSalesmanName", &Self::GetSalesmanName, {});
+    routines.Bind("GetBeatName", &Self::GetBeatName, {});
+    routines.Bind("GetGroupID", &Self::GetGroupID, {});
+    routines.Bind("GetGroupName", &Self::GetGroupName, {});
+    routines.Bind("ValidSalesman", &Self::ValidSalesman, {});
+    routines.Bind("ValidBeat", &Self::ValidBeat, {});
+    routines.Bind("ValidCatGroup", &Self::ValidCatGroup, {});
 
-    auto withNumber = [this](const char* name, void (Self::*routine)(long)) {
-        routines_.Add(name, [this, routine](RoutineCall& call) { (this->*routine)(RoutineArguments(call, 1, 1).Number(0)); });
-    };
-    withNumber("LoadCategoryGroup", &Self::LoadCategoryGroup);
-    withNumber("SetDefaultSalesman", &Self::SetDefaultSalesman);
-    withNumber("SetDefaultBeat", &Self::SetDefaultBeat);
-
-    auto numberOut = [this](const char* name, void (Self::*routine)(long, long&)) {
-        routines_.Add(name, [this, routine](RoutineCall& call) {
-            long nResult = 0;
-            (this->*routine)(RoutineArguments(call, 1, 1).Number(0), nResult);
-            call.outs.emplace_back("nResult", platform::Value(nResult));
-        });
-    };
-    numberOut("DSTypeCatMapped", &Self::DSTypeCatMapped);
-    numberOut("CheckForAllCatGrpMapped", &Self::CheckForAllCatGrpMapped);
-
-    routines_.Add("isBeatDeactivated", [this](RoutineCall& call) {
-        call.result = platform::Value(isBeatDeactivated(RoutineArguments(call, 1, 1).Number(0)));
-    });
-    routines_.Add("SetDefaultCatGroup", [this](RoutineCall& call) { SetDefaultCatGroup(RoutineArguments(call, 1, 1).Text(0)); });
-    routines_.Add("GetCategoryGroupNames", [this](RoutineCall& call) {
-        call.result = platform::Value(GetCategoryGroupNames(RoutineArguments(call, 1, 1).Text(0)));
-    });
-    routines_.Add("GetSerialInAscOrder", [](RoutineCall& call) {
-        call.result = platform::Value(GetSerialInAscOrder(RoutineArguments(call, 1, 1).Text(0)));
-    });
-    routines_.Add("DSTypeNotMapped", [this](RoutineCall& call) {
-        RoutineArguments args(call, 0, 1);
-        call.result = platform::Value(DSTypeNotMapped(args.Has(0) ? args.Text(0) : txtCategory.Text()));
-    });
-    routines_.Add("CheckForGroupChange", [this](RoutineCall& call) {
-        RoutineArguments args(call, 2, 2);
-        CheckForGroupChange(args.Text(0), args.Number(1));
-    });
-    routines_.Add("CheckForGridItem", [this](RoutineCall& call) {
-        bool nResult = false;
-        CheckForGridItem(RoutineArguments(call, 1, 1).Number(0), nResult);
-        call.outs.emplace_back("nResult", platform::Value(nResult));
-    });
-    routines_.Add("GroupExistsForSalesman", [this](RoutineCall& call) {
-        RoutineArguments args(call, 2, 2);
-        long nResult = 0;
-        GroupExistsForSalesman(args.Number(0), args.Text(1), nResult);
-        call.outs.emplace_back("nResult", platform::Value(nResult));
-    });
-    routines_.Add("GrpExists", [](RoutineCall& call) {
-        RoutineArguments args(call, 2, 2);
-        bool bAll = false, bAny = false;
-        GrpExists(args.Text(0), args.Text(1), bAll, bAny);
-        call.outs.emplace_back("bAll", platform::Value(bAll));
-        call.outs.emplace_back("bAny", platform::Value(bAny));
-    });
-    auto keyDown = [this](const char* name, void (Self::*routine)(int&, int)) {
-        routines_.Add(name, [this, routine](RoutineCall& call) {
-            RoutineArguments args(call, 2, 2);
-            int nKeyCode = static_cast<int>(args.Number(0));
-            (this->*routine)(nKeyCode, static_cast<int>(args.Number(1)));
-            call.outs.emplace_back("KeyCode", platform::Value(nKeyCode));
-        });
-    };
-    keyDown("txtSalesman_KeyDown", &Self::txtSalesman_KeyDown);
-    keyDown("txtBeat_KeyDown", &Self::txtBeat_KeyDown);
-    keyDown("txtCategory_KeyDown", &Self::txtCategory_KeyDown);
+    routines.Bind("LoadCategoryGroup", &Self::LoadCategoryGroup, {"nInd"});
+    routines.Bind("SetDefaultSalesman", &Self::SetDefaultSalesman, {"nSalesmanID"});
+    routines.Bind("SetDefaultBeat", &Self::SetDefaultBeat, {"nBeatID"});
+    routines.Bind("DSTypeCatMapped", &Self::DSTypeCatMapped, {"nSalesmanID", "nResult"});
+    routines.Bind("CheckForAllCatGrpMapped", &Self::CheckForAllCatGrpMapped, {"nSalesmanID", "nResult"});
+    routines.Bind("isBeatDeactivated", &Self::isBeatDeactivated, {"nBeatID"});
+    routines.Bind("SetDefaultCatGroup", &Self::SetDefaultCatGroup, {"szGroup"});
+    routines.Bind("GetCategoryGroupNames", &Self::GetCategoryGroupNames, {"szGroupIDs"});
+    routines.Bind("GetSerialInAscOrder", &Self::GetSerialInAscOrder, {"szList"});
+    // The routine reads the category box itself; the group a caller names is not used.
+    routines.Bind("DSTypeNotMapped", &Self::DSTypeNotMapped, {Optional("szGroup", "")});
+    routines.Bind("CheckForGroupChange", &Self::CheckForGroupChange, {"szGroup", "nInd"});
+    routines.Bind("CheckForGridItem", &Self::CheckForGridItem, {"nSalesmanChange", "nResult"});
+    routines.Bind("GroupExistsForSalesman", &Self::GroupExistsForSalesman, {"nSalesmanID", "szGroup", "nResult"});
+    routines.Bind("GrpExists", &Self::GrpExists, {"szOld", "szNew", "bAll", "bAny"});
+    routines.Bind("txtSalesman_KeyDown", &Self::txtSalesman_KeyDown, {InOut("KeyCode"), "Shift"});
+    routines.Bind("txtBeat_KeyDown", &Self::txtBeat_KeyDown, {InOut("KeyCode"), "Shift"});
+    routines.Bind("txtCategory_KeyDown", &Self::txtCategory_KeyDown, {InOut("KeyCode"), "Shift"});
 
     // The party fields, for a host that inspects the form.
     auto text = [this](const char* name, const std::string* field) { fields_[name] = [field] { return *field; }; };

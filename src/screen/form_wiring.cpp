@@ -1,7 +1,6 @@
 // Which routine answers which control's event, and which routines a host may
 // call by name.
-#include "platform/convert.h"
-#include "screen/routine_arguments.h"
+#include "screen/routine_binder.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
@@ -42,62 +41,40 @@ void Zuro_frmDispatch_Dispatch::WireEvents() {
     txtCustomerID.LostFocus.Connect([this] { txtCustomerID_LostFocus(); });
 }
 
-namespace {
-const std::string& Argument(const RoutineCall& call, std::size_t index) { return RoutineArguments(call, index + 1, 2).Text(index); }
-long LongArgument(const RoutineCall& call, std::size_t index) { return RoutineArguments(call, index + 1, 2).Number(index); }
-}  // namespace
-
 void Zuro_frmDispatch_Dispatch::RegisterRoutines() {
-    auto plain = [this](const char* name, void (Zuro_frmDispatch_Dispatch::*routine)()) {
-        routines_.Add(name, [this, routine](RoutineCall&) { (this->*routine)(); });
-    };
-    auto withLong = [this](const char* name, auto routine) {
-        routines_.Add(name, [this, routine](RoutineCall& call) { (this->*routine)(LongArgument(call, 0)); });
-    };
-    plain("InitDTFlexDispatch", &Zuro_frmDispatch_Dispatch::InitDTFlexDispatch);
-    plain("cmdMemo_Click", &Zuro_frmDispatch_Dispatch::cmdMemo_Click);
-    plain("ClearMemoFields", &Zuro_frmDispatch_Dispatch::ClearMemoFields);
-    plain("Form_Resize", &Zuro_frmDispatch_Dispatch::Form_Resize);
-    plain("AutoListCallBack", &Zuro_frmDispatch_Dispatch::AutoListCallBack);
-    plain("LayoutHeaderFields", &Zuro_frmDispatch_Dispatch::LayoutHeaderFields);
-    plain("LayoutCustomerFields", &Zuro_frmDispatch_Dispatch::LayoutCustomerFields);
-    plain("AlignControlsforDocumentNumber", &Zuro_frmDispatch_Dispatch::AlignControlsforDocumentNumber);
-    plain("MakeControlsVisible", &Zuro_frmDispatch_Dispatch::MakeControlsVisible);
-    plain("RepositionAutolist", &Zuro_frmDispatch_Dispatch::RepositionAutolist);
-    plain("GetNewDispatchID", &Zuro_frmDispatch_Dispatch::GetNewDispatchID);
-    plain("GetRefNO", &Zuro_frmDispatch_Dispatch::GetRefNO);
-    plain("InitCustAutolists", &Zuro_frmDispatch_Dispatch::InitCustAutolists);
-    plain("LoadCustomerAdd", &Zuro_frmDispatch_Dispatch::LoadCustomerAdd);
-    plain("ClearCustomer", &Zuro_frmDispatch_Dispatch::ClearCustomer);
-    withLong("SetFrame", &Zuro_frmDispatch_Dispatch::SetFrame);
-    withLong("SetTabStop", &Zuro_frmDispatch_Dispatch::SetTabStop);
-    routines_.Add("AdvanceField", [this](RoutineCall& call) { AdvanceField(static_cast<int>(LongArgument(call, 0))); });
-    routines_.Add("AdvanceField2", [this](RoutineCall& call) { AdvanceField2(static_cast<int>(LongArgument(call, 0))); });
-    routines_.Add("LoadDocumentTypes",
-                  [this](RoutineCall& call) { LoadDocumentTypes(static_cast<int>(LongArgument(call, 0))); });
-    routines_.Add("SetDocumentReference",
-                  [this](RoutineCall& call) { SetDocumentReference(static_cast<int>(LongArgument(call, 0))); });
-    routines_.Add("GetCustomerCategory",
-                  [this](RoutineCall& call) { call.result = platform::Value(GetCustomerCategory(Argument(call, 0))); });
-    routines_.Add("DoubleQuotes", [](RoutineCall& call) { call.result = platform::Value(DoubleQuotes(Argument(call, 0))); });
-    routines_.Add("ShowCustomerCredit", [this](RoutineCall& call) {
-        ShowCustomerCredit(Argument(call, 0), call.arguments.size() > 1 && platform::UCase(Argument(call, 1)) == "TRUE");
-    });
-    routines_.Add("GetCreditLimit", [this](RoutineCall& call) { call.result = platform::Value(GetCreditLimit(Argument(call, 0))); });
-    routines_.Add("GetOutstandingBalance",
-                  [this](RoutineCall& call) { call.result = platform::Value(GetOutstandingBalance(Argument(call, 0))); });
-    routines_.Add("GetCustomerOverDue", [this](RoutineCall& call) {
-        call.result = platform::Value(GetCustomerOverDue(Argument(call, 0), LongArgument(call, 1)));
-    });
-    routines_.Add("GetChequesInHand", [this](RoutineCall& call) { call.result = platform::Value(GetChequesInHand(Argument(call, 0))); });
-    routines_.Add("LoadBillsOutstanding",
-                  [this](RoutineCall& call) { call.result = LoadBillsOutstanding(Argument(call, 0)); });
-    routines_.Add("IsTradeCustomer", [this](RoutineCall& call) { call.result = platform::Value(IsTradeCustomer(Argument(call, 0))); });
-    routines_.Add("ToUpperKey", [](RoutineCall& call) {
-        int key = static_cast<int>(LongArgument(call, 0));
-        ToUpperKey(key);
-        call.outs.emplace_back("nKeyAscii", platform::Value(key));
-    });
+    using Self = Zuro_frmDispatch_Dispatch;
+    RoutineBinder routines(routines_, *this);
+    routines.Bind("InitDTFlexDispatch", &Self::InitDTFlexDispatch, {});
+    routines.Bind("cmdMemo_Click", &Self::cmdMemo_Click, {});
+    routines.Bind("ClearMemoFields", &Self::ClearMemoFields, {});
+    routines.Bind("Form_Resize", &Self::Form_Resize, {});
+    routines.Bind("AutoListCallBack", &Self::AutoListCallBack, {});
+    routines.Bind("LayoutHeaderFields", &Self::LayoutHeaderFields, {});
+    routines.Bind("LayoutCustomerFields", &Self::LayoutCustomerFields, {});
+    routines.Bind("AlignControlsforDocumentNumber", &Self::AlignControlsforDocumentNumber, {});
+    routines.Bind("MakeControlsVisible", &Self::MakeControlsVisible, {});
+    routines.Bind("RepositionAutolist", &Self::RepositionAutolist, {});
+    routines.Bind("GetNewDispatchID", &Self::GetNewDispatchID, {});
+    routines.Bind("GetRefNO", &Self::GetRefNO, {});
+    routines.Bind("InitCustAutolists", &Self::InitCustAutolists, {});
+    routines.Bind("LoadCustomerAdd", &Self::LoadCustomerAdd, {});
+    routines.Bind("ClearCustomer", &Self::ClearCustomer, {});
+    routines.Bind("SetFrame", &Self::SetFrame, {"nScreen"});
+    routines.Bind("SetTabStop", &Self::SetTabStop, {"nScreen"});
+    routines.Bind("AdvanceField", &Self::AdvanceField, {"Shift"});
+    routines.Bind("AdvanceField2", &Self::AdvanceField2, {"Shift"});
+    routines.Bind("LoadDocumentTypes", &Self::LoadDocumentTypes, {"nTransactionType"});
+    routines.Bind("SetDocumentReference", &Self::SetDocumentReference, {"nTransactionType"});
+    routines.Bind("GetCustomerCategory", &Self::GetCustomerCategory, {"szCustomerID"});
+    routines.Bind("DoubleQuotes", &Self::DoubleQuotes, {"szText"});
+    routines.Bind("ShowCustomerCredit", &Self::ShowCustomerCredit, {"szName", Optional("bWithBills", "False")});
+    routines.Bind("GetCreditLimit", &Self::GetCreditLimit, {"szCode"});
+    routines.Bind("GetOutstandingBalance", &Self::GetOutstandingBalance, {"szCode"});
+    routines.Bind("GetCustomerOverDue", &Self::GetCustomerOverDue, {"szCode", "nKind"});
+    routines.Bind("GetChequesInHand", &Self::GetChequesInHand, {"szCode"});
+    routines.Bind("LoadBillsOutstanding", &Self::LoadBillsOutstanding, {"szName"});
+    routines.Bind("IsTradeCustomer", &Self::IsTradeCustomer, {"szCode"});
+    routines.Bind("ToUpperKey", &Self::ToUpperKey, {InOut("nKeyAscii")});
 }
 
 }  // namespace screen

@@ -1,11 +1,13 @@
 // The screen's routines by name, for a host that holds the form object and calls
 // them late-bound (the session driver's `call`). Arguments arrive as the user wrote
-// them; a routine gives its result and the by-reference arguments it set.
+// them; a routine gives its result and the by-reference arguments it set, or refuses
+// words that do not fit it before it runs.
 #pragma once
 
 #include <functional>
 #include <map>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -13,6 +15,14 @@
 #include "platform/value.h"
 
 namespace screen {
+
+// The caller's words do not fit the routine (too few, too many, a word where a
+// number belongs): the caller's mistake, raised before the routine runs. A run-time
+// error inside the routine is the routine's own and never this.
+class RoutineRefused : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
 
 struct RoutineCall {
     std::vector<std::string> arguments;

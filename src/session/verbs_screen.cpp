@@ -2,10 +2,8 @@
 // closing it as the user does, and calling its routines by name.
 #include <fmt/format.h>
 
-#include <stdexcept>
-
 #include "platform/convert.h"
-#include "platform/runtime_error.h"
+#include "screen/routine_table.h"
 #include "session/script_error.h"
 #include "session/script_words.h"
 #include "session/session.h"
@@ -14,8 +12,6 @@
 
 namespace session {
 namespace {
-
-constexpr long kWrongNumberOfArguments = 450;
 
 void RefuseWhileOpen(Session& session) {
     if (session.ScreenIsOpen()) throw ActionRefused("a screen is open already; close it first");
@@ -82,13 +78,9 @@ void Call(Session& session, const ScriptCommand& command) {
     call.arguments.assign(command.words.begin() + 2, command.words.end());
     try {
         (*routine)(call);
-    } catch (const std::invalid_argument& e) {
-        // The routine could not take the arguments as written.
+    } catch (const screen::RoutineRefused& e) {
+        // The words did not fit the routine, which did not run: the script is wrong.
         throw ScriptError(command.line, fmt::format("{}: {}", name, e.what()));
-    } catch (const platform::RuntimeError& e) {
-        // The late-bound call's own refusal of the arguments, before the routine ran.
-        if (e.Number() != kWrongNumberOfArguments) throw;
-        throw ScriptError(command.line, fmt::format("{}: {}", name, e.Description()));
     }
     if (call.result) session.transcript.Line("result " + platform::ToText(*call.result));
     for (const auto& [outName, value] : call.outs) session.transcript.Line(fmt::format("out {} {}", outName, platform::ToText(value)));

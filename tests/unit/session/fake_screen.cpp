@@ -91,7 +91,7 @@ void FakeScreen::AddRoutines() {
     });
     routines_.Add("Broken", [](screen::RoutineCall&) { throw platform::RuntimeError(platform::err::ObjectNotSet); });
     routines_.Add("Strict", [](screen::RoutineCall& call) {
-        if (call.arguments.size() != 1) throw std::invalid_argument("takes one argument");
+        if (call.arguments.size() != 1) throw screen::RoutineRefused("takes one argument");
         if (call.arguments[0] == "late") throw platform::RuntimeError(450, "Wrong number of arguments");
     });
 }

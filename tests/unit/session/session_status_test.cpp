@@ -46,7 +46,6 @@ TEST_F(SessionTest, WrongControlsAndArgumentsAreScriptErrors) {
              {"show field szNothing", "the screen has no field szNothing"},
              {"call NoSuchRoutine", "the screen has no routine NoSuchRoutine"},
              {"call Strict 1 2", "Strict: takes one argument"},
-             {"call Strict late", "Strict: Wrong number of arguments"},
              {"answer AskMessage 9", ""},
              {"answer Nonsense 1", ""},
              {"setting NoSuchSetting 1", ""},
@@ -113,6 +112,12 @@ TEST_F(SessionTest, RunTimeErrorThatEscapesTheScreenIsAFailure) {
     auto outcome = Run(kOpen + "call Broken\nexpect rows 2\n");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_THAT(outcome.out, HasSubstr("FAIL line 3: call Broken: run-time error 91 not handled by the screen: Object"));
+}
+
+TEST_F(SessionTest, WrongArgumentsErrorInsideARoutineIsItsOwnNotARefusal) {
+    auto outcome = Run(kOpen + "call Strict late\n");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(outcome.out, HasSubstr("FAIL line 3: call Strict late: run-time error 450 not handled by the screen"));
 }
 
 TEST_F(SessionTest, ClosedScreenTakesNoMoreEvents) {

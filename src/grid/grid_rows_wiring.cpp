@@ -39,6 +39,7 @@ void Zuro_frmDispatch_Dispatch::WireGridKeysAndRows() {
     routines.Bind("GetCustomerForScheme", &Self::GetCustomerForScheme, {});
     routines.Bind("ResetSchemeMemory", &Self::ResetSchemeMemory, {});
     routines.Bind("DTFlexDispatch_RowColChange", &Self::DTFlexDispatch_RowColChange, {"nRow", "nCol"});
+    routines.Bind("DTFlexDispatch_Change", &Self::DTFlexDispatch_Change, {"nCol"});
     routines.Bind("DTFlexDispatch_AfterDelete", &Self::DTFlexDispatch_AfterDelete, {});
     routines.Bind("DTFlexDispatch_AtLastRow", &Self::DTFlexDispatch_AtLastRow, {});
     routines.Bind("DTFlexDispatch_AtFirstRow", &Self::DTFlexDispatch_AtFirstRow, {});

@@ -13,6 +13,8 @@ void Zuro_frmDispatch_Dispatch::WireItemEntryAndBatches() {
 
     using Self = Zuro_frmDispatch_Dispatch;
     RoutineBinder routines(routines_, *this);
+    routines.Bind("DTFlexDispatch_AfterColUpdate", &Self::DTFlexDispatch_AfterColUpdate,
+                  {"nRow", "nCol", InOut("bCancel")});
     routines.Bind("GetItemPrice", &Self::GetItemPrice, {"szItemCode", "nRow"});
     routines.Bind("GetItemProperty", &Self::GetItemProperty, {"szItemCode", "nProperty", "nValue"});
     routines.Bind("ClearItemDetails", &Self::ClearItemDetails, {"nRow"});

@@ -57,16 +57,16 @@ void PlainAutoList::ShowList(const std::string& typedText) {
     registry_->Opened(*this);
 }
 
-void PlainAutoList::ListKeyDown(int& keyCode, int /*shift*/, int flag) {
+void PlainAutoList::ListKeyDown(int& keyCode, int /*shift*/, int swallowArrows) {
     if (!visible_) return;
     switch (keyCode) {
         case kKeyUp:
             if (selected_ > 0) --selected_;
-            if (flag) keyCode = 0;
+            if (swallowArrows) keyCode = 0;
             break;
         case kKeyDown:
             if (selected_ + 1 < static_cast<int>(rows_.size())) ++selected_;
-            if (flag) keyCode = 0;
+            if (swallowArrows) keyCode = 0;
             break;
         // Enter and Escape go on to the box's own handler: the screen's Enter logic
         // runs on the text the pick has just written.

@@ -44,8 +44,8 @@ public:
     void SetLockedToList(bool locked) override { lockedToList_ = locked; }
     void SetAllOption(bool on) override { allOption_ = on; }
     void SetAllOptionText(const std::string& text) override { allOptionText_ = text; }
-    void SetQuery(const std::string& sql, int flagA = 0, int flagB = 1) override;
-    void ListKeyDown(int& keyCode, int shift, int flag) override;
+    void SetQuery(const std::string& sql, int hostOptionA = 0, int hostOptionB = 1) override;
+    void ListKeyDown(int& keyCode, int shift, int swallowArrows) override;
     // True while the program writes into the box: ShowList then leaves the list shut.
     void SetEnabled(bool programWriting) override { programWriting_ = programWriting; }
     void ShowList(const std::string& typedText) override;

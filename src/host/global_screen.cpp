@@ -19,7 +19,7 @@ std::string Joined(const host_services::HostGlobal::StyleArray& style) {
 
 }  // namespace
 
-void PlainGlobal::ShowStatus(const std::string& text, int flag) { state_.transcript.Status(text, flag); }
+void PlainGlobal::ShowStatus(const std::string& text, int mustNotice) { state_.transcript.Status(text, mustNotice); }
 
 void PlainGlobal::ShowNumberedMessage(long number, int, const std::vector<std::string>& arguments) {
     std::string text = messages_.FormatMessage(messages_.NumberedText(number), arguments);

@@ -8,7 +8,7 @@
 
 #include "host/settings.h"
 #include "platform/database.h"
-#include "screen/host_services/host_global.h"
+#include "screen/host_services/host_saving.h"
 
 namespace host {
 

@@ -1,6 +1,7 @@
-// The host library's global service over one connection: database and values,
-// settings, screen and keyboard, documents, units of measure, saving and printing.
-// Its operations are defined in the global_*.cpp files, one file a group.
+// The host library's global service over one connection, one object playing every
+// role of HostGlobal: database and values, settings, keyboard and lists, documents,
+// units of measure, saving and printing, screen and status. Its operations are
+// defined in the global_*.cpp files, one file a group.
 #pragma once
 
 #include <string>
@@ -19,7 +20,7 @@ public:
     PlainGlobal(HostState& state, PlainMessages& messages)
         : state_(state), messages_(messages), units_(*state.connection), journal_(*state.connection, state.settings) {}
 
-    // ---- database and values (global_database.cpp) ---------------------------------
+    // ---- database and values (global_database.cpp, GetSplitSource in global_saving.cpp)
     void SetHostContext(host_services::HostContext& context) override { state_.context = &context; }
     platform::Connection& GetConnection() override { return *state_.connection; }
     platform::RecordsetPtr RunProcedure(const std::string& name, const platform::ParameterList& parameters) override;
@@ -34,15 +35,12 @@ public:
     std::string ToText(const platform::Value& value) override;
     double ToNumber(const platform::Value& value) override;
     std::string GetNumberFormat(int kind) override;
-    std::string GetVoucherPrefix(const std::string& key) override;
-    std::string GetSCPrefixKey() override { return "SALE CONFIRMATION"; }
-    std::string GetPOPrefixKey() override { return "RECEIVED PO"; }
-    std::string GetDispatchPrefixKey() override { return "DISPATCH"; }
+    std::string GetSplitSource(const std::string& text) override;
     std::string GetDateFormat() override;
     platform::Date DayStart(const platform::DatePicker& picker) override;
     platform::Date DayEnd(const platform::DatePicker& picker) override;
     platform::Date ToDateOnly(platform::Date date) override;
-    platform::Date GetCurrentDate(int flag) override;
+    platform::Date GetCurrentDate(int hostOption) override;
     platform::Date GetTransactionDate() override;
     platform::Date GetOpeningDate() override;
     void SetLastTransactionDate(platform::Date date) override { state_.lastTransactionDate = date; }
@@ -64,19 +62,7 @@ public:
     std::string GetAdministratorPassword() override;
     std::string DecodeAdministratorPassword(const std::string& stored) override;
 
-    // ---- screen (global_screen.cpp) ----------------------------------------------------
-    void ShowStatus(const std::string& text, int flag) override;
-    void ShowNumberedMessage(long number, int flag, const std::vector<std::string>& arguments) override;
-    std::string GetReadyMessage() override;
-    void ReportError(const std::string& description, long number) override;
-    std::string GetFormIcon() override;
-    void ApplyFormStyle(host_services::HostedForm& form, const StyleArray& header, const StyleArray& body) override;
-    void ApplyFormStyle(host_services::HostLink& link, const StyleArray& header, const StyleArray& body) override;
-    StyleArray GetGridHeaderFont() override { return {"Tahoma", "8", "Bold"}; }
-    StyleArray GetGridBodyFont() override { return {"Tahoma", "8", "Regular"}; }
-    void ApplyGridStyle(platform::Control& grid) override;
-    std::string GetFormShortcutText() override;
-    std::string GetFormCloseShortcutText() override;
+    // ---- keyboard and lists (global_keyboard.cpp, the short cuts in global_screen.cpp)
     void HandleFormShortcut(host_services::HostedForm& form, int& keyCode, int shift) override;
     void HandleDateShortcut(host_services::HostedForm& form, int& keyCode, int shift) override;
     void HandleLookupShortcut(platform::Control& control, int& keyCode, int shift) override;
@@ -86,8 +72,6 @@ public:
     int GetAlignRight() override { return 7; }
     int GetAlignCentre() override { return 4; }
     int GetGridEditColumnValue() override { return 1; }
-
-    // ---- keyboard and focus (global_keyboard.cpp) ------------------------------------
     void SetFocusTo(platform::Control& control) override;
     void HandleEnterAdvance(int shift, platform::Control& behind, platform::Control& ahead) override;
     int AddressEnterStep(int& keyCode) override;
@@ -97,13 +81,16 @@ public:
     void ComboAutoComplete(platform::ComboBox& combo, int& keyAscii) override;
     void SetDropDownWidth(platform::ComboBox& combo, int width) override;
     void FillComboBox(const std::string& table, const std::string& valueField, const std::string& textField,
-                      platform::ComboBox& combo, int flagA, int flagB, const std::string& condition) override;
+                      platform::ComboBox& combo, int hostOptionA, int hostOptionB,
+                      const std::string& condition) override;
     bool GetListGuard() override { return state_.listGuard; }
-    void SetListGuard(bool on) override { state_.listGuard = on; }
-    host_services::HostedForm* FindOpenForm(const std::string& formName, int flag) override;
-    int GetCustomerFormMode() override;
+    void SetListGuard(bool holdClicks) override { state_.listGuard = holdClicks; }
 
-    // ---- documents (global_documents.cpp) ----------------------------------------------
+    // ---- documents (global_documents.cpp, the prefixes in global_database.cpp) ------
+    std::string GetVoucherPrefix(const std::string& key) override;
+    std::string GetSCPrefixKey() override { return "SALE CONFIRMATION"; }
+    std::string GetPOPrefixKey() override { return "RECEIVED PO"; }
+    std::string GetDispatchPrefixKey() override { return "DISPATCH"; }
     std::string GetDefaultDocumentType(int transactionType) override;
     std::string GetNextDocumentReference(const std::string& documentType, int transactionType) override;
     double ParseDocumentNumber(const std::string& text) override;
@@ -121,15 +108,30 @@ public:
 
     // ---- saving and printing (global_saving.cpp) -------------------------------------
     host_services::JournalService& GetJournalService() override { return journal_; }
-    std::string GetPrintDocumentPath() override;
-    std::string GetPrintPromptText() override;
-    std::string GetPrintPromptTitle() override;
-    std::string PrintWithTemplate(const std::string& documentPath) override;
     long GetSaveCounterOne() override;
     long GetSaveCounterTwo() override;
     long GetCancelCounter() override;
     std::string GetUserName() override;
-    std::string GetSplitSource(const std::string& text) override;
+    std::string GetPrintDocumentPath() override;
+    std::string GetPrintPromptText() override;
+    std::string GetPrintPromptTitle() override;
+    std::string PrintWithTemplate(const std::string& documentPath) override;
+
+    // ---- screen and status (global_screen.cpp, GetCustomerFormMode in global_settings.cpp)
+    void ShowStatus(const std::string& text, int mustNotice) override;
+    void ShowNumberedMessage(long number, int mustNotice, const std::vector<std::string>& arguments) override;
+    std::string GetReadyMessage() override;
+    void ReportError(const std::string& description, long number) override;
+    std::string GetFormIcon() override;
+    void ApplyFormStyle(host_services::HostedForm& form, const StyleArray& header, const StyleArray& body) override;
+    void ApplyFormStyle(host_services::HostLink& link, const StyleArray& header, const StyleArray& body) override;
+    StyleArray GetGridHeaderFont() override { return {"Tahoma", "8", "Bold"}; }
+    StyleArray GetGridBodyFont() override { return {"Tahoma", "8", "Regular"}; }
+    void ApplyGridStyle(platform::Control& grid) override;
+    std::string GetFormShortcutText() override;
+    std::string GetFormCloseShortcutText() override;
+    host_services::HostedForm* FindOpenForm(const std::string& formName, int hostOption) override;
+    int GetCustomerFormMode() override;
 
 private:
     HostState& state_;

@@ -16,9 +16,9 @@ public:
     explicit PlainMessages(HostState& state) : state_(state), labels_(*state.connection) {}
 
     std::string GetLabel(const std::string& baseText, const std::string& kind = "Label",
-                         const std::string& product = "Kelvo", int flag = -1) override;
+                         const std::string& product = "Kelvo", int hostOption = -1) override;
     std::string GetBaseLabel(const std::string& shownText, const std::string& kind = "Label",
-                             const std::string& product = "Kelvo", int flag = -1) override;
+                             const std::string& product = "Kelvo", int hostOption = -1) override;
     void TranslateForm(host_services::HostedForm& form) override;
     void TranslateLoadedForm(host_services::HostedForm& form) override;
     int AskMessage(const std::string& text, int buttons, const std::string& title = {},

@@ -52,10 +52,11 @@ void PlainTools::PrintDocument(int, std::string& templateName, const std::string
 
 void PlainTools::ShowPrintDialog(const std::string& settingsFile, const std::string& abstractProcedure,
                                  const std::string& detailProcedure, const std::string& key,
-                                 const std::string& documentKind, long, int flag) {
+                                 const std::string& documentKind, long, int answeredYes) {
     std::string file = printer_.Print({settingsFile, abstractProcedure, detailProcedure, documentKind, key},
                                       state_.settings.Text("OutputFolder"));
-    state_.transcript.Print(documentKind + " " + key + " -> " + file + " (dialog, flag " + std::to_string(flag) + ")");
+    state_.transcript.Print(documentKind + " " + key + " -> " + file + " (dialog, flag " +
+                            std::to_string(answeredYes) + ")");
 }
 
 void PlainTools::PrintDirect(const std::string& settingsFile, const std::string& abstractProcedure,

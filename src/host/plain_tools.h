@@ -17,13 +17,13 @@ public:
     explicit PlainTools(HostState& state) : state_(state), printer_(*state.connection) {}
 
     void SetToolsContext(host_services::HostContext& context) override { state_.context = &context; }
-    bool CheckCloseDay(platform::Date date, int flag) override;
+    bool CheckCloseDay(platform::Date date, int closeDayModeOne) override;
     bool InputPassword(const std::string& prompt, const std::string& title, std::string& password) override;
 
     void PrintDocument(int kind, std::string& templateName, const std::string& documentPath) override;
     void ShowPrintDialog(const std::string& settingsFile, const std::string& abstractProcedure,
                          const std::string& detailProcedure, const std::string& key, const std::string& documentKind,
-                         long hwnd, int flag) override;
+                         long hwnd, int answeredYes) override;
     void PrintDirect(const std::string& settingsFile, const std::string& abstractProcedure,
                      const std::string& detailProcedure, long hwnd, const std::string& documentKind,
                      long key) override;
@@ -39,7 +39,8 @@ public:
     void ShowNotFoundDialog(const std::string& text) override;
     void ShowDocumentInfoDialog(const std::vector<std::string>& items, const std::string& customer,
                                 const std::string& serial, const std::string& group) override;
-    bool ShowMemoDialog(std::string& memo1, std::string& memo2, std::string& memo3, bool readOnly, int flag) override;
+    bool ShowMemoDialog(std::string& memo1, std::string& memo2, std::string& memo3, bool readOnly,
+                        int hostOption) override;
 
 private:
     HostState& state_;

@@ -338,7 +338,8 @@ public:
     bool CheckCreditGates(long nSalesmanID, long nBeatID, long nRows);
     bool CheckCrLimit();
     bool CheckCreditLimit(double fExposure, double fCreditLimit);
-    // Steps 3 and 4 of both gates: the typed password against the administrator's.
+    // Where both gates let an administrator overrule them: the typed password against
+    // the administrator's.
     bool AdministratorPasswordMatches(const std::string& szTyped);
 
     // ---- saving and printing -------------------------------------------------------

@@ -73,7 +73,6 @@ void Zuro_frmDispatch_Dispatch::HandleCtrlF7(int& KeyCode, int Shift) {
             host_.global.ShowStatus("Add/Modify Customer already open, Close it and try again", 1);
             return;
         }
-        nCustomerFormState = 1;
         throw platform::RuntimeError(platform::err::ObjectNotSet);
     });
 }

@@ -11,7 +11,9 @@ BUILD=${BUILD:-build}
 JOBS=${JOBS:-$(nproc)}
 
 install_missing_packages
-cmake -S . -B "$BUILD" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
+# The released program logs a fault of its own and goes on; the option is named
+# because scripts/test.sh turns it on in the same build folder.
+cmake -S . -B "$BUILD" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DDISPATCH_STRICT_FAULTS=OFF
 cmake --build "$BUILD" -j "$JOBS"
 "$BUILD"/dispatch demo-db "$BUILD"/demo.db --force
 

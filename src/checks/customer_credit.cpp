@@ -99,7 +99,7 @@ bool Zuro_frmDispatch_Dispatch::IsTradeCustomer(const std::string& szCode) {
 }
 
 void Zuro_frmDispatch_Dispatch::ToUpperKey(int& nKeyAscii) {
-    if (nKeyAscii >= 97 && nKeyAscii <= 122) nKeyAscii -= 32;
+    if (nKeyAscii >= 'a' && nKeyAscii <= 'z') nKeyAscii -= 'a' - 'A';
 }
 
 }  // namespace screen

@@ -3,6 +3,7 @@
 // the item list, and walking the batch list from the price and quantity cells.
 #include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
+#include "platform/key_codes.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
@@ -10,15 +11,11 @@ namespace screen {
 using namespace grid;
 
 namespace {
-namespace key {
-constexpr int Enter = 13, Escape = 27, Space = 32, Left = 37, Up = 38, Right = 39, Down = 40;
-constexpr int C = 67, V = 86, PadSlash = 111, Slash = 191;
-}  // namespace key
-constexpr int kCtrl = 2, kCtrlShift = 3;
+namespace keys = platform::keys;
 
 // The keys that only move about: all a free row lets through.
 bool IsMovingKey(int nKey) {
-    return nKey == key::Right || nKey == key::Enter || nKey == key::Left || nKey == key::Up || nKey == key::Down;
+    return nKey == keys::Right || nKey == keys::Enter || nKey == keys::Left || nKey == keys::Up || nKey == keys::Down;
 }
 }  // namespace
 
@@ -28,17 +25,17 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_KeyCode(int& KeyCode, int Shift) 
         auto& grid = DTFlexDispatch;
         bListArmed = 0;
 
-        if (KeyCode == key::V && Shift == kCtrl) {
+        if (KeyCode == keys::V && Shift == keys::CtrlMask) {
             RequireObject(objItemList).SetEnabled(true);
             PasteGridItems(grid);
             RequireObject(objItemList).SetEnabled(false);
             return;
         }
-        if (KeyCode == key::C && Shift == kCtrl) {
+        if (KeyCode == keys::C && Shift == keys::CtrlMask) {
             CopyGridItems(grid);
             return;
         }
-        if (KeyCode == key::C && Shift == kCtrlShift) return;
+        if (KeyCode == keys::C && Shift == keys::CtrlShiftMask) return;
 
         const int nRow = grid.GridRow();
         auto cell = [&](int nCol) { return grid.GetCell(nRow, nCol); };
@@ -50,7 +47,7 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_KeyCode(int& KeyCode, int Shift) 
         const int nCol = grid.GridCol();
         const std::string szCustomer = GetCustomerForScheme();
 
-        if (KeyCode == key::Space && nCol == colQuantity) {
+        if (KeyCode == keys::Space && nCol == colQuantity) {
             bSchemeViewKey = true;
             const double dTyped = platform::Val(grid.EditText());
             if (number(colQuantity) == 0 && dTyped != 0) {
@@ -70,7 +67,7 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_KeyCode(int& KeyCode, int Shift) 
             bSchemeViewKey = false;
         }
 
-        if (nCol == colQuantity && number(colOCGItem) == 0 && (KeyCode == key::PadSlash || KeyCode == key::Slash)) {
+        if (nCol == colQuantity && number(colOCGItem) == 0 && (KeyCode == keys::PadSlash || KeyCode == keys::Slash)) {
             CycleUOM();
             grid.SetCell(nRow, colPrevQty, "");
             KeyCode = 0;  // the slash changes the unit; it never lands in the quantity
@@ -80,8 +77,8 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_KeyCode(int& KeyCode, int Shift) 
         nBatchTrack = platform::CLng(number(colBatchTrack));
 
         // Look up by code or by name without typing anything first.
-        if (KeyCode == key::Right && nCol == colItemCode && cell(colItemCode).empty()) grid.SetGridCol(colItemName);
-        if (KeyCode == key::Left && nCol == colItemName && cell(colItemName).empty()) grid.SetGridCol(colItemCode);
+        if (KeyCode == keys::Right && nCol == colItemCode && cell(colItemCode).empty()) grid.SetGridCol(colItemName);
+        if (KeyCode == keys::Left && nCol == colItemName && cell(colItemName).empty()) grid.SetGridCol(colItemCode);
 
         bListArmed = 1;
         if (objItemList && objItemList->GetVisible()) objItemList->ListKeyDown(KeyCode, Shift, 0);
@@ -102,7 +99,7 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_KeyCode(int& KeyCode, int Shift) 
                               0);
         }
 
-        if (KeyCode == key::Escape) cmdChange.Visible = false;
+        if (KeyCode == keys::Escape) cmdChange.Visible = false;
     });
 }
 

@@ -3,6 +3,7 @@
 // status line keeps the stock in view.
 #include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
+#include "platform/key_codes.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
@@ -75,7 +76,7 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_RowColChange(int nRow, int nCol) 
         // user had pressed Enter there.
         if (FrameAvailable.Visible && lstAvailable.Count() > 0 && cell(colBatch).empty() && !grid.IsBlankRow(nRow) &&
             number(colBatchTrack) == 1) {
-            int nKey = 13;
+            int nKey = platform::keys::Enter;
             DTFlexDispatch_KeyCode(nKey, global.GetShiftMask());
         }
     });

@@ -1,4 +1,4 @@
-// Step A of an ended edit: an item typed by code (column 1) or by name (column 2).
+// An ended edit of the item: an item typed by code (column 1) or by name (column 2).
 // The other column of the pair is looked up, the item must belong to the note's
 // group, and a sold row takes the item's flags and price.
 #include "grid/item_entry_cells.h"

@@ -1,4 +1,4 @@
-// Steps B and B2 of an ended edit: the unit chosen in column 4 and the quantity
+// An ended edit of the unit or the quantity: the unit chosen in column 4 and the quantity
 // typed in column 6. A quantity is one number in the row's unit, or, on a row of
 // multiple units (unit 0), an expression of counts such as "2*0*5".
 #include "grid/item_entry_cells.h"

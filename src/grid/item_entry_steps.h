@@ -1,7 +1,7 @@
-// The steps of DTFlexDispatch_AfterColUpdate, one object per ended edit: A the item
-// typed in column 1 or 2, B the unit of column 4, B2 the quantity of column 6, and
-// C the tail every edit ends with. A step that answers false has refused (or ended)
-// the edit, and the handler stops there.
+// What DTFlexDispatch_AfterColUpdate does with one ended edit: the item typed in
+// column 1 or 2, the unit of column 4, the quantity of column 6, and the tail every
+// edit ends with. A part that answers false has refused (or ended) the edit, and the
+// handler stops there.
 #pragma once
 
 #include "screen/zuro_frm_dispatch_dispatch.h"
@@ -13,20 +13,21 @@ public:
     ItemEntryEdit(screen::Zuro_frmDispatch_Dispatch& form, host_services::HostServices& host, int nRow, bool& bCancel)
         : form_(form), host_(host), grid_(form.DTFlexDispatch), nRow_(nRow), bCancel_(bCancel) {}
 
-    bool ItemEntered(int nCol);      // A
-    void UnitChosen();               // B
-    bool QuantityEntered();          // B2
-    void CommonTail(int nCol);       // C
+    bool ItemEntered(int nCol);
+    void UnitChosen();
+    bool QuantityEntered();
+    void CommonTail(int nCol);
 
 private:
-    // A, step 4: the item belongs to the note's group (or to the salesman's
-    // categories); false after message 13.
+    // The item belongs to the note's group (or to the salesman's categories); false
+    // after message 13.
     bool ItemInDispatchGroup(const std::string& szCode);
-    // B2 steps 1 to 3: the quantity's syntax, and its size in base units.
+    // The quantity's syntax, and its size in base units.
     bool QuantitySyntaxAccepted(double& dBaseQty);
-    // B2 step 5: a primary's free rows go when its quantity changes.
+    // A primary's free rows go when its quantity changes.
     void DropFreeRowsOfPrimary();
-    // C step 2: the checks of a quantity; false when the handler ends.
+    // The checks of a quantity: an item on the row, its syntax, and the stock;
+    // false when the handler ends.
     bool QuantityChecksPassed();
     bool QuantityWithinStock(const std::string& szCode, const std::string& szQuantity);
     double SelectedEntryQuantity() const;  // sub-item 3 of the stock list's selection

@@ -1,4 +1,4 @@
-// Step C of an ended edit, run by every column that gets this far: the stock of an
+// The tail of an ended edit, run by every column that gets this far: the stock of an
 // item without batches, the checks of a quantity against stock, the warning of an
 // ignored free item, and the row's serial.
 #include <cstdint>

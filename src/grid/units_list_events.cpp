@@ -2,14 +2,12 @@
 // item's units (entry 0 the multi-unit entry), and a choice sets the row's unit.
 #include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
+#include "platform/key_codes.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
 
-namespace {
-constexpr int kKeyEnter = 13;
-constexpr int kKeyEscape = 27;
-}  // namespace
+namespace keys = platform::keys;
 
 void Zuro_frmDispatch_Dispatch::lstUOM_Click() {
     Handled("lstUOM_Click", [&] {
@@ -29,7 +27,7 @@ void Zuro_frmDispatch_Dispatch::lstUOM_DblClick() {
 
 void Zuro_frmDispatch_Dispatch::lstUOM_KeyDown(int& KeyCode, int Shift) {
     Handled("lstUOM_KeyDown", [&] {
-        if ((KeyCode != kKeyEnter && KeyCode != kKeyEscape) || Shift != 0) return;
+        if ((KeyCode != keys::Enter && KeyCode != keys::Escape) || Shift != keys::NoShift) return;
         lstUOM.Visible = false;
         ApplyUOMChange(true);
         // The cursor is on the quantity before the list's choice is put in the

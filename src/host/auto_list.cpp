@@ -5,14 +5,11 @@
 #include "host/list_registry.h"
 #include "host/sql_text.h"
 #include "platform/convert.h"
+#include "platform/key_codes.h"
 
 namespace host {
-namespace {
-constexpr int kKeyEnter = 13;
-constexpr int kKeyEscape = 27;
-constexpr int kKeyUp = 38;
-constexpr int kKeyDown = 40;
-}  // namespace
+
+namespace keys = platform::keys;
 
 PlainAutoList::PlainAutoList(platform::ConnectionPtr connection, std::shared_ptr<ListRegistry> registry)
     : connection_(std::move(connection)), registry_(std::move(registry)) {
@@ -60,20 +57,20 @@ void PlainAutoList::ShowList(const std::string& typedText) {
 void PlainAutoList::ListKeyDown(int& keyCode, int /*shift*/, int swallowArrows) {
     if (!visible_) return;
     switch (keyCode) {
-        case kKeyUp:
+        case keys::Up:
             if (selected_ > 0) --selected_;
             if (swallowArrows) keyCode = 0;
             break;
-        case kKeyDown:
+        case keys::Down:
             if (selected_ + 1 < static_cast<int>(rows_.size())) ++selected_;
             if (swallowArrows) keyCode = 0;
             break;
         // Enter and Escape go on to the box's own handler: the screen's Enter logic
         // runs on the text the pick has just written.
-        case kKeyEnter:
+        case keys::Enter:
             PickSelected();
             break;
-        case kKeyEscape:
+        case keys::Escape:
             HideList();
             break;
         default:

@@ -2,13 +2,13 @@
 #include "host/main_form.h"
 #include "host/plain_global.h"
 #include "platform/convert.h"
+#include "platform/key_codes.h"
 
 namespace host {
-namespace {
 
-constexpr int kKeyEnter = 13;
-constexpr int kKeyBackspace = 8;
-constexpr int kKeyEnd = 35, kKeyHome = 36, kKeyUp = 38, kKeyDown = 40;
+namespace keys = platform::keys;
+
+namespace {
 
 bool StartsWithIgnoringCase(const std::string& text, const std::string& prefix) {
     return text.size() >= prefix.size() && platform::UCase(text.substr(0, prefix.size())) == platform::UCase(prefix);
@@ -19,13 +19,13 @@ bool StartsWithIgnoringCase(const std::string& text, const std::string& prefix) 
 void PlainGlobal::SetFocusTo(platform::Control& control) { SafeFocus(control); }
 
 void PlainGlobal::HandleEnterAdvance(int shift, platform::Control& behind, platform::Control& ahead) {
-    SafeFocus(shift == 1 ? behind : ahead);
+    SafeFocus(shift == keys::ShiftMask ? behind : ahead);
 }
 
 // The first Enter in a box stays there as a new line; a second one straight after,
 // with nothing typed between, moves on.
 int PlainGlobal::AddressEnterStep(int& keyCode) {
-    if (keyCode != kKeyEnter) {
+    if (keyCode != keys::Enter) {
         addressEnterPending_ = false;
         return 0;
     }
@@ -52,16 +52,16 @@ bool PlainGlobal::MoveListSelection(platform::ListView& list, int keyCode) {
     int count = list.Count();
     if (count == 0) return false;
     int from = list.SelectedIndex();
-    if (keyCode == kKeyEnter) {
+    if (keyCode == keys::Enter) {
         if (from < 1) list.Select(1);
         return true;
     }
     int to = from;
     switch (keyCode) {
-        case kKeyUp: to = from > 1 ? from - 1 : from; break;
-        case kKeyDown: to = from < count ? from + 1 : from; break;
-        case kKeyHome: to = 1; break;
-        case kKeyEnd: to = count; break;
+        case keys::Up: to = from > 1 ? from - 1 : from; break;
+        case keys::Down: to = from < count ? from + 1 : from; break;
+        case keys::Home: to = 1; break;
+        case keys::End: to = count; break;
         default: return false;
     }
     if (to == from || to < 1) return false;
@@ -85,12 +85,12 @@ void PlainGlobal::ComboFindExact(platform::ComboBox& combo) {
 // the rest of the entry counts as selected, so the next key goes on from the typed
 // part, not from the entry's end.
 void PlainGlobal::ComboAutoComplete(platform::ComboBox& combo, int& keyAscii) {
-    bool printable = keyAscii >= 32 && keyAscii < 256 && keyAscii != 127;
-    if (!printable && keyAscii != kKeyBackspace) return;
+    bool printable = keyAscii >= ' ' && keyAscii < 256 && keyAscii != 127;
+    if (!printable && keyAscii != keys::Backspace) return;
     if (&combo != completingCombo_ || combo.Text() != completionShown_) completionTyped_ = combo.Text();
     completingCombo_ = &combo;
 
-    if (keyAscii == kKeyBackspace) {
+    if (keyAscii == keys::Backspace) {
         if (!completionTyped_.empty()) completionTyped_.pop_back();
     } else {
         completionTyped_ += static_cast<char>(keyAscii);

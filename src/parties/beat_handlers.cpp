@@ -4,13 +4,11 @@
 #include "parties/party_boxes.h"
 #include "parties/party_support.h"
 #include "platform/convert.h"
+#include "platform/key_codes.h"
 
 namespace screen {
 
-namespace {
-constexpr int kKeyEnter = 13;
-constexpr int kShiftBack = 1;
-}  // namespace
+namespace keys = platform::keys;
 
 void Zuro_frmDispatch_Dispatch::txtBeat_Change() {
     // Emptying the box below raises this handler again; that run has nothing to add.
@@ -48,7 +46,7 @@ void Zuro_frmDispatch_Dispatch::txtBeat_KeyDown(int& KeyCode, int Shift) {
         platform::TextBox& customerBox = parties::CustomerBox(*this, global);
         if (objBeatList && objBeatList->GetVisible()) objBeatList->ListKeyDown(KeyCode, Shift, 0);
 
-        if (KeyCode == kKeyEnter && Shift == global.GetShiftMask()) {
+        if (KeyCode == keys::Enter && Shift == global.GetShiftMask()) {
             bAllCategories = false;
             if (platform::Trim(txtBeat.Text()).empty()) {
                 customerBox.SetFocus();
@@ -85,7 +83,7 @@ void Zuro_frmDispatch_Dispatch::txtBeat_KeyDown(int& KeyCode, int Shift) {
                 return;
             }
             parties::MoveOnFromParty(*this, global, customerBox);
-        } else if (KeyCode == kKeyEnter && Shift == kShiftBack) {
+        } else if (KeyCode == keys::Enter && Shift == keys::ShiftMask) {
             txtSalesman.SetFocus();
         }
     });

@@ -2,18 +2,16 @@
 // choice typed in any case, guarded against a grid whose items belong elsewhere.
 #include "parties/party_boxes.h"
 #include "platform/convert.h"
+#include "platform/key_codes.h"
 
 namespace screen {
 
-namespace {
-constexpr int kKeyEnter = 13;
-constexpr int kShiftBack = 1;
-}  // namespace
+namespace keys = platform::keys;
 
 void Zuro_frmDispatch_Dispatch::txtCategory_KeyDown(int& KeyCode, int Shift) {
     Handled("txtCategory_KeyDown", [&] {
         auto& global = host_.global;
-        if (KeyCode == kKeyEnter && Shift == global.GetShiftMask()) {
+        if (KeyCode == keys::Enter && Shift == global.GetShiftMask()) {
             bAllCategories = false;
             if (platform::Trim(txtCategory.Text()).empty()) {
                 global.ShowNumberedMessage(8, 1, {});
@@ -32,7 +30,7 @@ void Zuro_frmDispatch_Dispatch::txtCategory_KeyDown(int& KeyCode, int Shift) {
             CheckForGroupChange(txtCategory.Tag, 4);
             LoadPreviousValues();
             txtref.SetFocus();
-        } else if (KeyCode == kKeyEnter && Shift == kShiftBack) {
+        } else if (KeyCode == keys::Enter && Shift == keys::ShiftMask) {
             parties::CustomerBox(*this, global).SetFocus();
         }
     });

@@ -17,7 +17,6 @@ void Zuro_frmDispatch_Dispatch::CustomerCallBack(const std::string& szCode, cons
             }
         }
         if (objCustomerList) objCustomerList->SetEnabled(false);
-        nCustomerFormState = 2;
         box.SetFocus();
     });
 }

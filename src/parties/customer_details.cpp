@@ -1,8 +1,11 @@
 // What the screen reads of a chosen customer, and clearing it again.
 #include "platform/convert.h"
+#include "platform/key_codes.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
+
+namespace keys = platform::keys;
 
 void Zuro_frmDispatch_Dispatch::LoadCustomerAdd() {
     Handled("LoadCustomerAdd", [&] {
@@ -64,15 +67,12 @@ std::string Zuro_frmDispatch_Dispatch::DoubleQuotes(const std::string& szText) {
 // Ctrl+F7 asks for the customer form. The screen never creates that form: the key
 // gives the open-form message, or the error of the form that is not there.
 void Zuro_frmDispatch_Dispatch::HandleCtrlF7(int& KeyCode, int Shift) {
-    constexpr int kF7 = 118;
-    constexpr int kCtrl = 2;
     platform::RunHandled(host_.global, "Global : HandleCtrlF7 : ", [&] {
-        if (KeyCode != kF7 || Shift != kCtrl) return;
+        if (KeyCode != keys::F7 || Shift != keys::CtrlMask) return;
         if (host_.global.FindOpenForm("frmCustomer", -1)) {
             host_.global.ShowStatus("Add/Modify Customer already open, Close it and try again", 1);
             return;
         }
-        nCustomerFormState = 1;
         throw platform::RuntimeError(platform::err::ObjectNotSet);
     });
 }

@@ -1,13 +1,14 @@
 // The keys of the two customer boxes. Enter accepts only a customer chosen from
 // the list (its key stands in the box's Tag); on the entry page it then narrows
 // and fills the other parties.
+#include "platform/key_codes.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
 
+namespace keys = platform::keys;
+
 namespace {
-constexpr int kEnter = 13;
-constexpr int kBack = 1;  // Shift+Enter
 constexpr const char* kSelectExisting = "Select an existing Customer.";
 }  // namespace
 
@@ -29,7 +30,7 @@ static void CustomerEnter(Zuro_frmDispatch_Dispatch& form, host_services::HostSe
     global.ShowStatus(global.GetReadyMessage(), 0);
     if (onEntryPage && box.Visible) {
         form.bAllCategories = false;
-        int key = kEnter;
+        int key = keys::Enter;
         (form.*pressKey)(key);
         const bool bEmptyParties = form.txtSalesman.Text().empty() && form.txtBeat.Text().empty();
         const bool salesmanOrBeat = !form.txtSalesman.Text().empty() || !form.txtBeat.Text().empty();
@@ -90,10 +91,10 @@ void Zuro_frmDispatch_Dispatch::txtCustomer_KeyDown(int& KeyCode, int Shift) {
             nCustomerEntrySource = 1;
             HandleCtrlF7(KeyCode, Shift);
         }
-        if (KeyCode != kEnter) return;
+        if (KeyCode != keys::Enter) return;
         if (Shift == host_.global.GetShiftMask())
             CustomerEnter(*this, host_, txtCustomer, &Zuro_frmDispatch_Dispatch::txtCustomer_KeyPress);
-        else if (Shift == kBack)
+        else if (Shift == keys::ShiftMask)
             CustomerBack(*this, host_, txtCustomer);
     });
 }
@@ -106,17 +107,17 @@ void Zuro_frmDispatch_Dispatch::txtCustomerID_KeyDown(int& KeyCode, int Shift) {
             nCustomerEntrySource = 2;
             HandleCtrlF7(KeyCode, Shift);
         }
-        if (KeyCode != kEnter) return;
+        if (KeyCode != keys::Enter) return;
         if (Shift == host_.global.GetShiftMask())
             CustomerEnter(*this, host_, txtCustomerID, &Zuro_frmDispatch_Dispatch::txtCustomerID_KeyPress);
-        else if (Shift == kBack)
+        else if (Shift == keys::ShiftMask)
             CustomerBack(*this, host_, txtCustomerID);
     });
 }
 
 void Zuro_frmDispatch_Dispatch::txtCustomer_KeyPress(int& KeyAscii) {
     Handled("txtCustomer_KeyPress", [&] {
-        if (KeyAscii != kEnter) return;
+        if (KeyAscii != keys::Enter) return;
         auto& list = RequireObject(objCustomerList);
         list.SetEnabled(true);
         if (txtCustomer.Tag.empty()) {
@@ -138,7 +139,7 @@ void Zuro_frmDispatch_Dispatch::txtCustomer_KeyPress(int& KeyAscii) {
 // the asymmetry with the name box is the screen's own.
 void Zuro_frmDispatch_Dispatch::txtCustomerID_KeyPress(int& KeyAscii) {
     Handled("txtCustomerID_KeyPress", [&] {
-        if (KeyAscii != kEnter || nLastKeyShift == host_.global.GetShiftMask()) return;
+        if (KeyAscii != keys::Enter || nLastKeyShift == host_.global.GetShiftMask()) return;
         auto& list = RequireObject(objCustomerList);
         list.SetEnabled(true);
         if (txtCustomerID.Tag.empty()) {

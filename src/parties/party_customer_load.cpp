@@ -4,12 +4,11 @@
 #include "parties/party_boxes.h"
 #include "parties/party_support.h"
 #include "platform/convert.h"
+#include "platform/key_codes.h"
 
 namespace screen {
 
-namespace {
-constexpr int kKeyEnter = 13;
-}  // namespace
+namespace keys = platform::keys;
 
 void Zuro_frmDispatch_Dispatch::LoadCustomer() {
     Handled("LoadCustomer", [&] {
@@ -42,9 +41,9 @@ void Zuro_frmDispatch_Dispatch::LoadCustomer() {
             ClearCustomer();
         }
 
-        int nKeyAscii = kKeyEnter;
+        int nKeyAscii = keys::Enter;
         txtCustomer_KeyPress(nKeyAscii);
-        nKeyAscii = kKeyEnter;
+        nKeyAscii = keys::Enter;
         txtCustomerID_KeyPress(nKeyAscii);
 
         platform::TextBox& customerBox = parties::CustomerBox(*this, global);

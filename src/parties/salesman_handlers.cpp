@@ -4,13 +4,11 @@
 #include "parties/party_boxes.h"
 #include "parties/party_support.h"
 #include "platform/convert.h"
+#include "platform/key_codes.h"
 
 namespace screen {
 
-namespace {
-constexpr int kKeyEnter = 13;
-constexpr int kShiftBack = 1;
-}  // namespace
+namespace keys = platform::keys;
 
 void Zuro_frmDispatch_Dispatch::txtSalesman_Change() {
     Handled("txtSalesman_Change", [&] {
@@ -31,7 +29,7 @@ void Zuro_frmDispatch_Dispatch::txtSalesman_KeyDown(int& KeyCode, int Shift) {
         auto& global = host_.global;
         if (objSalesmanList && objSalesmanList->GetVisible()) objSalesmanList->ListKeyDown(KeyCode, Shift, 0);
 
-        if (KeyCode == kKeyEnter && Shift == global.GetShiftMask()) {
+        if (KeyCode == keys::Enter && Shift == global.GetShiftMask()) {
             bAllCategories = false;
             if (platform::Trim(txtSalesman.Text()).empty()) {
                 parties::MoveOnFromParty(*this, global, txtBeat);
@@ -75,7 +73,7 @@ void Zuro_frmDispatch_Dispatch::txtSalesman_KeyDown(int& KeyCode, int Shift) {
                 return;
             }
             parties::MoveOnFromParty(*this, global, txtBeat);
-        } else if (KeyCode == kKeyEnter && Shift == kShiftBack) {
+        } else if (KeyCode == keys::Enter && Shift == keys::ShiftMask) {
             parties::CustomerBox(*this, global).SetFocus();
         }
     });
@@ -103,7 +101,7 @@ void Zuro_frmDispatch_Dispatch::txtSalesman_LostFocus() {
             return;
         }
         txtSalesman.Tag = szCode;
-        int nKeyCode = kKeyEnter;
+        int nKeyCode = keys::Enter;
         txtSalesman_KeyDown(nKeyCode, global.GetShiftMask());
     });
 }

@@ -123,7 +123,6 @@ public:
     int ListCount() const { return static_cast<int>(entries_.size()); }
     const std::string& List(int index) const;       // -1 reads as ""; error 381 elsewhere outside the list
     long ItemData(int index) const;
-    void SetItemData(int index, long value);
     int ListIndex() const { return listIndex_; }
     void SetListIndex(int index);  // -1 to ListCount-1, else error 380; a change raises Click
     const std::vector<ListEntry>& Entries() const { return entries_; }

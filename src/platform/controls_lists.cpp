@@ -45,11 +45,6 @@ long ListControl::ItemData(int index) const {
     return entries_[static_cast<std::size_t>(index)].itemData;
 }
 
-void ListControl::SetItemData(int index, long value) {
-    if (index < 0 || index >= ListCount()) throw RuntimeError(kInvalidArrayIndex);
-    entries_[static_cast<std::size_t>(index)].itemData = value;
-}
-
 void ListControl::SetListIndex(int index) {
     if (index < -1 || index >= ListCount()) throw RuntimeError(err::InvalidPropertyValue);
     if (index == listIndex_) return;

@@ -1,6 +1,5 @@
 #include "platform/convert_parse.h"
 
-#include <cctype>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>

@@ -21,12 +21,24 @@ public:
     virtual void ReportError(const std::string& description, long number) = 0;
 };
 
+// What the handler does with an exception that is not a run-time error: a fault of
+// the program itself, such as a std::logic_error or an index out of range.
+enum class FaultPolicy {
+    Log,    // logged as an internal error and the screen goes on, as the runtime did
+    Abort,  // the process stops at once and names the exception, so no test passes over it
+};
+
+// Abort in a build made with DISPATCH_STRICT_FAULTS (the test builds), Log otherwise.
+FaultPolicy CurrentFaultPolicy();
+// Puts another policy in force and returns the one it replaced.
+FaultPolicy SetFaultPolicy(FaultPolicy policy);
+
 namespace detail {
 void ReportCaught(ErrorLog& log, std::string_view prefix, std::exception_ptr error);
 void RollBackOpenTransaction(Connection& connection, bool& bInTransaction);
 }  // namespace detail
 
-// Runs body; true when it ran to its end, false when a run-time error was logged.
+// Runs body; true when it ran to its end, false when an error was logged.
 template <class Body>
 bool RunHandled(ErrorLog& log, std::string_view prefix, Body&& body) {
     try {

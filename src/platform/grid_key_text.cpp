@@ -3,7 +3,6 @@
 namespace platform::grid_keys {
 namespace {
 
-constexpr int kShiftBit = 1, kCtrlBit = 2, kAltBit = 4;
 constexpr std::string_view kShiftedDigits = ")!@#$%^&*(";
 
 struct PunctuationKey {
@@ -11,9 +10,10 @@ struct PunctuationKey {
     char plain, shifted;
 };
 constexpr PunctuationKey kPunctuation[] = {
-    {186, ';', ':'}, {187, '=', '+'}, {188, ',', '<'}, {189, '-', '_'}, {190, '.', '>'},
-    {191, '/', '?'}, {192, '`', '~'}, {219, '[', '{'}, {220, '\\', '|'}, {221, ']', '}'},
-    {222, '\'', '"'},
+    {keys::Semicolon, ';', ':'},    {keys::Equals, '=', '+'},      {keys::Comma, ',', '<'},
+    {keys::Minus, '-', '_'},        {keys::Period, '.', '>'},      {keys::Slash, '/', '?'},
+    {keys::Backquote, '`', '~'},    {keys::OpenBracket, '[', '{'}, {keys::Backslash, '\\', '|'},
+    {keys::CloseBracket, ']', '}'}, {keys::Quote, '\'', '"'},
 };
 
 // The number pad's operator keys.
@@ -21,21 +21,23 @@ struct PadKey {
     int code;
     char character;
 };
-constexpr PadKey kPad[] = {{106, '*'}, {107, '+'}, {109, '-'}, {110, '.'}, {111, '/'}};
+constexpr PadKey kPad[] = {{keys::PadMultiply, '*'}, {keys::PadPlus, '+'}, {keys::PadMinus, '-'},
+                           {keys::PadDecimal, '.'}, {keys::PadSlash, '/'}};
 
 bool IsContinuationByte(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
 }  // namespace
 
 std::optional<std::string> KeyCharacter(int keyCode, int shift) {
-    if (shift & (kCtrlBit | kAltBit)) return std::nullopt;
-    const bool shifted = shift & kShiftBit;
-    if (keyCode == Space) return std::string(1, ' ');
+    if (shift & (keys::CtrlMask | keys::AltMask)) return std::nullopt;
+    const bool shifted = shift & keys::ShiftMask;
+    if (keyCode == keys::Space) return std::string(1, ' ');
     if (keyCode >= 'A' && keyCode <= 'Z')
         return std::string(1, static_cast<char>(shifted ? keyCode : keyCode - 'A' + 'a'));
     if (keyCode >= '0' && keyCode <= '9')
         return std::string(1, shifted ? kShiftedDigits[static_cast<std::size_t>(keyCode - '0')] : static_cast<char>(keyCode));
-    if (keyCode >= 96 && keyCode <= 105) return std::string(1, static_cast<char>('0' + keyCode - 96));
+    if (keyCode >= keys::PadDigit0 && keyCode <= keys::PadDigit9)
+        return std::string(1, static_cast<char>('0' + keyCode - keys::PadDigit0));
     for (const auto& key : kPad)
         if (key.code == keyCode) return std::string(1, key.character);
     for (const auto& key : kPunctuation)
@@ -46,13 +48,13 @@ std::optional<std::string> KeyCharacter(int keyCode, int shift) {
 int KeyCodeOf(std::string_view character) {
     if (character.empty()) return 0;
     const unsigned char c = static_cast<unsigned char>(character.front());
-    if (c >= 0x80) return Composed;
+    if (c >= 0x80) return keys::Composed;
     if (c >= 'a' && c <= 'z') return c - 'a' + 'A';
     if ((c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9')) return c;
-    if (c == ' ') return Space;
+    if (c == ' ') return keys::Space;
     // The operators a clerk types into a quantity come from the number pad.
     for (const auto& key : kPad)
-        if (key.character == static_cast<char>(c) && key.code != 109 && key.code != 110) return key.code;
+        if (key.character == static_cast<char>(c) && key.code != keys::PadMinus && key.code != keys::PadDecimal) return key.code;
     for (const auto& key : kPunctuation)
         if (key.plain == static_cast<char>(c) || key.shifted == static_cast<char>(c)) return key.code;
     const auto digit = kShiftedDigits.find(static_cast<char>(c));

@@ -6,10 +6,10 @@
 #include <algorithm>
 
 #include "platform/grid_key_text.h"
+#include "platform/key_codes.h"
 #include "platform/runtime_error.h"
 
 namespace platform {
-namespace keys = grid_keys;
 namespace {
 constexpr long kInvalidArrayIndex = 381;
 }  // namespace
@@ -57,7 +57,7 @@ void DTFlex::ActOnKey(int keyCode, int shift) {
         default:
             break;
     }
-    if (auto character = keys::KeyCharacter(keyCode, shift); character && TypeIntoEditor(*character, false))
+    if (auto character = grid_keys::KeyCharacter(keyCode, shift); character && TypeIntoEditor(*character, false))
         Change.Raise(col_);
 }
 
@@ -69,10 +69,10 @@ void DTFlex::UserType(const std::string& text) {
         return;
     }
     bool typed = false;
-    for (const std::string& character : keys::Characters(text)) {
-        int keyCode = keys::KeyCodeOf(character);
+    for (const std::string& character : grid_keys::Characters(text)) {
+        int keyCode = grid_keys::KeyCodeOf(character);
         const int row = row_, col = col_;
-        KeyCode.Raise(keyCode, 0);
+        KeyCode.Raise(keyCode, keys::NoShift);
         if (keyCode == 0 || row_ != row || col_ != col) continue;
         // The first character that gets through replaces what the editor held.
         if (TypeIntoEditor(character, !typed)) typed = true;
@@ -173,7 +173,7 @@ void DTFlex::RemoveLastCharacter() {
     if (!HasCurrentCell() || CurrentCellLocked()) return;
     if (!editing_) OpenEditor(cells_[static_cast<std::size_t>(row_)][static_cast<std::size_t>(col_)]);
     if (editText_.empty()) return;
-    keys::RemoveLastCharacter(editText_);
+    grid_keys::RemoveLastCharacter(editText_);
     Change.Raise(col_);
 }
 

@@ -1,5 +1,5 @@
 // Writing a dispatch note: the one routine that does, in one transaction on the
-// host's connection. The order of the steps is the design: the credit gate before
+// host's connection. The order of its parts is the design: the credit gate before
 // anything is begun, the abstract, the document counter, the lines (where stock
 // leaves the batches), the source documents, the posting to accounts, and only
 // then the commit. A failure anywhere after BeginTrans takes the whole note back
@@ -31,7 +31,8 @@ bool Zuro_frmDispatch_Dispatch::SaveDispatch() {
     platform::RunHandledInTransaction(global, szPrefix, global.GetConnection(), bInTransaction, [&] {
         SaveLocals save;
 
-        // 1. Preparation, outside any transaction.
+        // The parties, the rows and the dates are gathered, and the credit gates
+        // passed, before any transaction is begun.
         save.nSalesmanID = std::max(GetSalesmanID(), 0L);
         save.nBeatID = std::max(GetBeatID(), 0L);
         szCurrentGroupID = GetGroupID();
@@ -45,11 +46,10 @@ bool Zuro_frmDispatch_Dispatch::SaveDispatch() {
             return;
         }
 
-        // 2.
         global.GetConnection().BeginTrans();
         bInTransaction = true;
 
-        // 3. The references and the origin of the note.
+        // The references and the origin of the note, by the mode it was keyed in.
         switch (nMode) {
             case mode::FromSalesConfirmation:
             case mode::FromAlert:
@@ -74,27 +74,28 @@ bool Zuro_frmDispatch_Dispatch::SaveDispatch() {
                 break;
         }
 
-        // 4. An amendment first closes the note it replaces. That step belongs to
-        // the amendment of stored notes, which this build does not have yet.
+        // An amendment first closes the note it replaces. Closing belongs to the
+        // amendment of stored notes, which this build does not have yet.
         if (nMode == mode::Amendment) throw platform::RuntimeError(platform::err::NotSupported);
 
-        if (!SaveAbstract(save)) return;                                               // 5.
-        if (!UpdateTransactionSerial(save)) return;                                    // 6.
-        if (!SaveDetailRows(save.nRows, save.nDispatchID, save.dtDispatchDay, save.nDatedPosting)) return;  // 7.
-        UpdateSourceDocuments(save);                                                   // 8.
-        if (!PostToAccounts(save)) return;                                             // 9.
+        if (!SaveAbstract(save)) return;
+        if (!UpdateTransactionSerial(save)) return;
+        if (!SaveDetailRows(save.nRows, save.nDispatchID, save.dtDispatchDay, save.nDatedPosting)) return;
+        UpdateSourceDocuments(save);
+        if (!PostToAccounts(save)) return;
 
-        // 10. The status line changes ahead of the commit.
+        // The status line changes ahead of the commit.
         const char* szDone = nMode == mode::Amendment ? "DispatchID = {0} has been Amended"
                                                        : "DispatchID = {0} has been generated";
         global.ShowStatus(host_.messages.FormatMessage(szDone, {save.szDocumentID}), 0);
-        global.SetLastTransactionDate(DTDispatchDate.Value);  // 11.
-        global.GetConnection().CommitTrans();                  // 12.
+        global.SetLastTransactionDate(DTDispatchDate.Value);
+        global.GetConnection().CommitTrans();
         bInTransaction = false;
 
-        PrintSavedDispatch(save.nDispatchID);  // 13. The note is stored; a printing fault does not undo it.
+        // The note is stored; a printing fault does not undo it.
+        PrintSavedDispatch(save.nDispatchID);
 
-        CleanUp();  // 14.
+        CleanUp();
         if (nMode == mode::Amendment)
             InitAfterAmendment(save.szDocumentID);
         else

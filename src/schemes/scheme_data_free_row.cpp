@@ -6,6 +6,7 @@
 // row, which stops with the rows made so far left in the grid.
 #include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
+#include "platform/key_codes.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
@@ -69,7 +70,7 @@ long Zuro_frmDispatch_Dispatch::MakeSchemeFreeRow(long nPrimaryRow, long nScheme
 
     grid.SetGridRow(nFreeRow);
     grid.SetGridCol(colQuantity);
-    int nKey = 13;
+    int nKey = platform::keys::Enter;
     DTFlexDispatch_KeyCode(nKey, global.GetShiftMask());
     return nFreeRow;
 }

@@ -1,12 +1,14 @@
 // The note's number and its document type: the serial the server proposes, the
 // document types of dispatches, and the reference each type gives.
 #include "platform/convert.h"
+#include "platform/key_codes.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
 
+namespace keys = platform::keys;
+
 namespace {
-constexpr int kEnter = 13;
 constexpr int kDispatchTransaction = 5;
 }  // namespace
 
@@ -89,7 +91,7 @@ void Zuro_frmDispatch_Dispatch::cbodocumenttype_LostFocus() {
 void Zuro_frmDispatch_Dispatch::cbodocumenttype_KeyPress(int& KeyAscii) {
     Handled("cbodocumenttype_KeyPress", [&] {
         auto& global = host_.global;
-        if (KeyAscii != kEnter) {
+        if (KeyAscii != keys::Enter) {
             global.ComboAutoComplete(cbodocumenttype, KeyAscii);
             return;
         }
@@ -124,13 +126,13 @@ void Zuro_frmDispatch_Dispatch::cbodocumenttype_KeyPress(int& KeyAscii) {
 
 void Zuro_frmDispatch_Dispatch::cbodocumenttype_KeyDown(int& KeyCode, int Shift) {
     Handled("cbodocumenttype_KeyDown", [&] {
-        if (KeyCode == kEnter) host_.global.HandleEnterAdvance(Shift, DTDispatchDate, txtBillingAddress);
+        if (KeyCode == keys::Enter) host_.global.HandleEnterAdvance(Shift, DTDispatchDate, txtBillingAddress);
     });
 }
 
 void Zuro_frmDispatch_Dispatch::txtDocReference_KeyDown(int& KeyCode, int Shift) {
     Handled("txtDocReference_KeyDown", [&] {
-        if (KeyCode != kEnter) return;
+        if (KeyCode != keys::Enter) return;
         if (nMode == mode::NewDispatch || nMode == mode::Amendment)
             host_.global.HandleEnterAdvance(Shift, DTDispatchDate, cbodocumenttype);
         else

@@ -1,6 +1,5 @@
 // Entry into the screen: InitForm binds the host, takes a frame, reads the
 // labels and prefixes, and opens the page of the mode.
-#include "platform/convert.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {

@@ -1,13 +1,11 @@
 // The form's own events: load, resize, the two steps of closing, the keys it
 // previews, and the memo button.
+#include "platform/key_codes.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
 
-namespace {
-constexpr int kKeyF3 = 114;
-constexpr int kKeyEscape = 27;
-}  // namespace
+namespace keys = platform::keys;
 
 void Zuro_frmDispatch_Dispatch::Form_Load() {
     Handled("Form_Load", [&] {
@@ -78,7 +76,7 @@ bool Zuro_frmDispatch_Dispatch::Close() {
 void Zuro_frmDispatch_Dispatch::Form_KeyDown(int& KeyCode, int Shift) {
     Handled("Form_KeyDown", [&] {
         bListArmed = 0;
-        if (KeyCode == kKeyF3) {
+        if (KeyCode == keys::F3) {
             if (Frame3.Enabled)
                 DTFlexDispatch.SetFocus();
             else
@@ -87,7 +85,7 @@ void Zuro_frmDispatch_Dispatch::Form_KeyDown(int& KeyCode, int Shift) {
         host_.global.HandleFormShortcut(*this, KeyCode, Shift);
         host_.global.HandleDateShortcut(*this, KeyCode, Shift);
         if (nMode == mode::View) host_.global.HandleLookupShortcut(txtDocID, KeyCode, Shift);
-        if (KeyCode == kKeyEscape && objLink) objLink->SetFocus();
+        if (KeyCode == keys::Escape && objLink) objLink->SetFocus();
     });
 }
 

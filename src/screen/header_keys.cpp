@@ -1,20 +1,20 @@
 // Enter walks the header forward and Shift+Enter back; these are the keys of the
 // header's boxes and the two focus rings of the sales-confirmation modes.
+#include "platform/key_codes.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
 
-namespace {
-constexpr int kEnter = 13;
-constexpr int kBack = 1;  // Shift+Enter
+namespace keys = platform::keys;
 
+namespace {
 bool FromConfirmation(long nMode) { return nMode == mode::FromSalesConfirmation || nMode == mode::FromAlert; }
 }  // namespace
 
 void Zuro_frmDispatch_Dispatch::AdvanceField(int Shift) {
     Handled("AdvanceField", [&] {
         if (!FromConfirmation(nMode) || !activeControl_) return;
-        const int next = activeControl_->TabIndex + (Shift == kBack ? -1 : 1);
+        const int next = activeControl_->TabIndex + (Shift == keys::ShiftMask ? -1 : 1);
         if (next >= 0 && next <= 3 && static_cast<std::size_t>(next) < vFocusOrder.size())
             vFocusOrder[static_cast<std::size_t>(next)]->SetFocus();
     });
@@ -23,7 +23,7 @@ void Zuro_frmDispatch_Dispatch::AdvanceField(int Shift) {
 void Zuro_frmDispatch_Dispatch::AdvanceField2(int Shift) {
     Handled("AdvanceField2", [&] {
         if (!FromConfirmation(nMode) || !activeControl_) return;
-        const int next = activeControl_->TabIndex - 6 + (Shift == kBack ? -1 : 1);
+        const int next = activeControl_->TabIndex - 6 + (Shift == keys::ShiftMask ? -1 : 1);
         if (next >= 0 && next <= 4 && static_cast<std::size_t>(next) < vFocusOrder2.size())
             vFocusOrder2[static_cast<std::size_t>(next)]->SetFocus();
     });
@@ -31,11 +31,11 @@ void Zuro_frmDispatch_Dispatch::AdvanceField2(int Shift) {
 
 void Zuro_frmDispatch_Dispatch::txtref_KeyDown(int& KeyCode, int Shift) {
     Handled("txtref_KeyDown", [&] {
-        if (KeyCode != kEnter) return;
+        if (KeyCode != keys::Enter) return;
         if (FromConfirmation(nMode)) {
             AdvanceField2(Shift);
         } else if (nMode == mode::NewDispatch || nMode == mode::Amendment) {
-            if (Shift == kBack)
+            if (Shift == keys::ShiftMask)
                 txtCategory.SetFocus();
             else if (Shift == host_.global.GetShiftMask())
                 DTDispatchDate.SetFocus();
@@ -45,13 +45,13 @@ void Zuro_frmDispatch_Dispatch::txtref_KeyDown(int& KeyCode, int Shift) {
 
 void Zuro_frmDispatch_Dispatch::txtRemarks_KeyDown(int& KeyCode, int Shift) {
     Handled("txtRemarks_KeyDown", [&] {
-        if (KeyCode == kEnter && Shift == host_.global.GetShiftMask()) cmdSave.SetFocus();
+        if (KeyCode == keys::Enter && Shift == host_.global.GetShiftMask()) cmdSave.SetFocus();
     });
 }
 
 void Zuro_frmDispatch_Dispatch::txtBillingAddress_KeyPress(int& KeyAscii) {
     Handled("txtBillingAddress_KeyPress", [&] {
-        if (KeyAscii != kEnter) return;
+        if (KeyAscii != keys::Enter) return;
         switch (host_.global.AddressEnterStep(KeyAscii)) {
             case 1: txtShippingAddress.SetFocus(); break;
             case 2: cbodocumenttype.SetFocus(); break;
@@ -62,7 +62,7 @@ void Zuro_frmDispatch_Dispatch::txtBillingAddress_KeyPress(int& KeyAscii) {
 
 void Zuro_frmDispatch_Dispatch::txtShippingAddress_KeyPress(int& KeyAscii) {
     Handled("txtShippingAddress_KeyPress", [&] {
-        if (KeyAscii != kEnter) return;
+        if (KeyAscii != keys::Enter) return;
         switch (host_.global.AddressEnterStep(KeyAscii)) {
             case 1:
                 DTFlexDispatch.SetFocus();
@@ -76,9 +76,9 @@ void Zuro_frmDispatch_Dispatch::txtShippingAddress_KeyPress(int& KeyAscii) {
 
 void Zuro_frmDispatch_Dispatch::DTDispatchDate_KeyDown(int& KeyCode, int Shift) {
     Handled("DTDispatchDate_KeyDown", [&] {
-        if (KeyCode != kEnter) return;
+        if (KeyCode != keys::Enter) return;
         if (nMode == mode::View || nMode == mode::Cancel) return;
-        if (Shift == kBack) {
+        if (Shift == keys::ShiftMask) {
             host_.global.SetFocusTo(txtDocReference);
             return;
         }
@@ -94,7 +94,7 @@ void Zuro_frmDispatch_Dispatch::cmdChange_Click() {
 
 void Zuro_frmDispatch_Dispatch::cmdChange_KeyDown(int& KeyCode, int Shift) {
     Handled("cmdChange_KeyDown", [&] {
-        if (KeyCode == kEnter && Shift != 0) DTFlexDispatch.SetFocus();
+        if (KeyCode == keys::Enter && Shift != keys::NoShift) DTFlexDispatch.SetFocus();
     });
 }
 

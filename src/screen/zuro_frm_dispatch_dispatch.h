@@ -78,7 +78,6 @@ public:
     bool bAllCategories = false;
     std::vector<platform::Control*> vFocusOrder, vFocusOrder2;
     long bListArmed = 0;  // the grid's key switch: a typing key reached the item columns
-    long nCustomerFormState = 0;  // 1 while the customer form is asked for, 2 after it called back
 
     // ---- entry and life cycle -------------------------------------------------
     void InitForm(platform::Date DServerDate, long nMode, host_services::HostContext& Zuro_objGlobal,
@@ -338,7 +337,8 @@ public:
     bool CheckCreditGates(long nSalesmanID, long nBeatID, long nRows);
     bool CheckCrLimit();
     bool CheckCreditLimit(double fExposure, double fCreditLimit);
-    // Steps 3 and 4 of both gates: the typed password against the administrator's.
+    // Where both gates let an administrator overrule them: the typed password against
+    // the administrator's.
     bool AdministratorPasswordMatches(const std::string& szTyped);
 
     // ---- saving and printing -------------------------------------------------------
@@ -382,8 +382,6 @@ public:
     bool FormVisible() const { return formVisible_; }
 
 private:
-    friend class FormWiring;
-
     // The one handler every routine runs under: "Dispatch: <routine> - " and the
     // error's description go to the host's error log.
     template <class Body>

@@ -6,9 +6,6 @@
 
 namespace session {
 
-// Shift bits as the key events carry them.
-inline constexpr int ShiftBit = 1, CtrlBit = 2, AltBit = 4;
-
 // The KeyAscii of a key code with the shift state; nothing for keys that raise no
 // KeyPress (function keys, arrows, Alt combinations).
 std::optional<int> KeyAscii(int keyCode, int shift);

@@ -2,6 +2,7 @@
 // `cell`, the three steps of filling one cell.
 #include <fmt/format.h>
 
+#include "platform/key_codes.h"
 #include "session/key_press.h"
 #include "session/script_error.h"
 #include "session/script_words.h"
@@ -72,7 +73,7 @@ void Cell(Session& session, const ScriptCommand& command) {
     // would if a handler had taken it elsewhere.
     GridGoto(session, command, 1);
     FocusedGrid(session, command).UserType(command.Argument(3));
-    PressGridKey(session.Form(command), FocusedGrid(session, command), 13, 0);
+    PressGridKey(session.Form(command), FocusedGrid(session, command), platform::keys::Enter, platform::keys::NoShift);
 }
 
 }  // namespace

@@ -55,10 +55,4 @@ constexpr std::array<ColumnDefinition, kGridColumnCount> kColumns{{
 
 const std::array<ColumnDefinition, kGridColumnCount>& ColumnTable() { return kColumns; }
 
-std::optional<GridColumn> ColumnByName(std::string_view name) {
-    for (const auto& definition : kColumns)
-        if (definition.name == name) return definition.column;
-    return std::nullopt;
-}
-
 }  // namespace grid

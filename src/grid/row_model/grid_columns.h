@@ -69,7 +69,5 @@ struct ColumnDefinition {
 
 // The column table, in column order.
 const std::array<ColumnDefinition, kGridColumnCount>& ColumnTable();
-// The column of a name ("colQuantity"), or nothing.
-std::optional<GridColumn> ColumnByName(std::string_view name);
 
 }  // namespace grid

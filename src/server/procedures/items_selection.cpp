@@ -5,7 +5,6 @@
 // dispatch variants add the note's own items.
 #include <string>
 
-#include "platform/convert.h"
 #include "server/procedure_context.h"
 #include "server/procedures/items_procedures.h"
 #include "server/procedures/parties_arguments.h"

@@ -41,15 +41,6 @@ TEST(RunHandled, LogsNothingWhenTheBodyRunsToItsEnd) {
     EXPECT_TRUE(log.entries.empty());
 }
 
-TEST(RunHandled, LogsAFaultOfTheProgramAsAnInternalError) {
-    MemoryLog log;
-    RunHandled(log, "Invoice : ComputeAmount - ", [] { throw std::out_of_range("vector index"); });
-    ASSERT_EQ(log.entries.size(), 1u);
-    EXPECT_EQ(log.entries[0].second, err::InternalError);
-    EXPECT_EQ(log.entries[0].first.rfind("Invoice : ComputeAmount - ", 0), 0u);
-    EXPECT_NE(log.entries[0].first.find("vector index"), std::string::npos);
-}
-
 TEST(RunHandledInTransaction, RollsBackOnlyAnOpenTransactionAndClearsTheFlag) {
     MemoryLog log;
     testing::FakeConnection connection;

@@ -1,15 +1,12 @@
 // Status lines, messages, the error log, the host's look and its common short cuts.
 #include "host/plain_global.h"
 #include "platform/convert.h"
+#include "platform/key_codes.h"
 
 namespace host {
 namespace {
 
-constexpr int kKeyF1 = 112;
-constexpr int kKeyDelete = 46;
-constexpr int kKeyT = 84;
-constexpr int kKeyPlus = 107, kKeyMinus = 109;
-constexpr int kCtrl = 2;
+namespace keys = platform::keys;
 
 std::string Joined(const host_services::HostGlobal::StyleArray& style) {
     std::string text;
@@ -55,7 +52,7 @@ std::string PlainGlobal::GetFormCloseShortcutText() { return state_.settings.Tex
 
 // F1 opens the help of the form's frame.
 void PlainGlobal::HandleFormShortcut(host_services::HostedForm& form, int& keyCode, int shift) {
-    if (keyCode != kKeyF1 || shift != 0) return;
+    if (keyCode != keys::F1 || shift != keys::NoShift) return;
     state_.transcript.Dialog("Help", form.FormName(), "ok");
     keyCode = 0;
 }
@@ -66,9 +63,9 @@ void PlainGlobal::HandleDateShortcut(host_services::HostedForm& form, int& keyCo
     if (!active || active->Kind() != platform::ControlKind::DatePicker) return;
     auto& picker = static_cast<platform::DatePicker&>(*active);
     platform::Date wanted = picker.Value;
-    if (keyCode == kKeyPlus && shift == 0) wanted.serial += 1;
-    else if (keyCode == kKeyMinus && shift == 0) wanted.serial -= 1;
-    else if (keyCode == kKeyT && shift == kCtrl) wanted = platform::DateOnly(state_.serverDate);
+    if (keyCode == keys::PadPlus && shift == keys::NoShift) wanted.serial += 1;
+    else if (keyCode == keys::PadMinus && shift == keys::NoShift) wanted.serial -= 1;
+    else if (keyCode == keys::T && shift == keys::CtrlMask) wanted = platform::DateOnly(state_.serverDate);
     else return;
     keyCode = 0;
     if (wanted.serial < picker.MinDate.serial || wanted.serial > picker.MaxDate.serial || wanted == picker.Value)
@@ -79,7 +76,7 @@ void PlainGlobal::HandleDateShortcut(host_services::HostedForm& form, int& keyCo
 
 // Ctrl+Delete in a look-up box clears the choice: text and key.
 void PlainGlobal::HandleLookupShortcut(platform::Control& control, int& keyCode, int shift) {
-    if (keyCode != kKeyDelete || shift != kCtrl) return;
+    if (keyCode != keys::Delete || shift != keys::CtrlMask) return;
     if (control.Kind() != platform::ControlKind::TextBox || !control.HasFocus()) return;
     auto& box = static_cast<platform::TextBox&>(control);
     if (box.Locked) return;

@@ -42,7 +42,9 @@ public:
     virtual int AddressEnterStep(int& keyCode) = 0;
     // Takes a combo's drop-down flag in its click event and clears it.
     virtual void NoteComboClick(bool& dropped) = 0;
-    // Walks the list's selection by the key; true when the selection moved.
+    // Walks the list's selection by the key; true when the selection moved. Enter
+    // takes the entry the list stands on (the first when none is chosen) and counts
+    // as moved, so that a caller reads that entry as the user's choice.
     virtual bool MoveListSelection(platform::ListView& list, int keyCode) = 0;
     // Selects the combo's entry equal to its text; index -1 when there is none.
     virtual void ComboFindExact(platform::ComboBox& combo) = 0;

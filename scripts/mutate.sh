@@ -168,12 +168,15 @@ def main():
     args.build = args.build.resolve()
     args.report = (args.report or args.build / "mutation-report.txt").resolve()
 
-    subprocess.run(["cmake", "-S", str(ROOT), "-B", str(args.build), "-G", "Ninja", "-DCMAKE_BUILD_TYPE=",
-                    "-DCMAKE_CXX_FLAGS=-O0", "-DDISPATCH_BENCHMARKS=OFF"], check=True, stdout=subprocess.DEVNULL)
+    # Unoptimised and without debug information: the quickest build to compile and link.
+    subprocess.run(["cmake", "-S", str(ROOT), "-B", str(args.build), "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
+                    "-DCMAKE_CXX_FLAGS_DEBUG=-O0", "-DDISPATCH_BENCHMARKS=OFF"], check=True, stdout=subprocess.DEVNULL)
     restorer = Restorer(args.build)
     restorer.recover_left_over()
 
-    # Ctrl-C and kill both end in the finally below, which puts the file back.
+    # Ctrl-C and kill both end in the finally below, which puts the file back; Ctrl-C is
+    # armed even where the shell started the run in the background with it ignored.
+    signal.signal(signal.SIGINT, signal.default_int_handler)
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
     signal.signal(signal.SIGHUP, lambda *_: sys.exit(129))
 

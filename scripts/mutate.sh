@@ -135,12 +135,19 @@ class Restorer:
             self.path = self.text = None
 
 
-def run(cmd, timeout=None, **kw):
+def run(cmd, timeout=None):
+    """Exit status of the command, or "timeout"; on a timeout or an interruption the
+    command goes down with everything it started."""
+    proc = subprocess.Popen(cmd, cwd=ROOT, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                            start_new_session=True)
     try:
-        return subprocess.run(cmd, cwd=ROOT, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                              text=True, timeout=timeout, **kw).returncode
+        return proc.wait(timeout=timeout)
     except subprocess.TimeoutExpired:
         return "timeout"
+    finally:
+        if proc.poll() is None:
+            os.killpg(proc.pid, signal.SIGKILL)
+            proc.wait()
 
 
 def build(args):

@@ -152,6 +152,13 @@ TEST_F(GridKeysRows, DeletingAFreeRowLeavesThePrimaries) {
     EXPECT_EQ(Rows(), "A:2");
     // The free row's link named row 1, and its previous quantity is forgotten.
     EXPECT_EQ(form->DTFlexDispatch.GetCell(1, colPrevQty), "");
+
+    // A link may name the grid's last row, here the blank entry row.
+    Lines({{"A", "1", ""}, {"AF", "2", "3", true}});
+    form->DTFlexDispatch.SetCell(3, colPrevQty, "5");
+    form->DTFlexDispatch.UserDeleteRow(2);
+    EXPECT_EQ(form->DTFlexDispatch.GetCell(2, colPrevQty), "");
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
 TEST_F(GridKeysRows, WithoutOtherGroupFreeItemsTheSchemeUndoRemovesTheFreeRows) {
@@ -186,16 +193,22 @@ TEST_F(GridKeysRows, TheLastRowDeletedForgetsTheSchemeRuns) {
     auto& f = OpenNote();
     Lines({{"A", "1", ""}});
     f.arrPrevSKU.push_back({platform::Value("A"), platform::Value(5.0), platform::Value(0.0), platform::Value(1), platform::Value(1)});
+    f.arrCurrSKU = f.arrPrevSKU;
     f.nPrevSKUCount = 1;
+    f.nCurrSKUCount = 1;
     f.nPrimaryRowCount = 1;
     f.bSplCatRefused = true;
+    f.bSplCatFreeMissing = true;
     f.txtCustomer.Tag = "C003";
     f.DTFlexDispatch.UserDeleteRow(1);
     ASSERT_EQ(f.DTFlexDispatch.GridRows(), 1);
     EXPECT_TRUE(f.arrPrevSKU.empty());
+    EXPECT_TRUE(f.arrCurrSKU.empty());
     EXPECT_EQ(f.nPrevSKUCount, 0);
+    EXPECT_EQ(f.nCurrSKUCount, 0);
     EXPECT_EQ(f.nPrimaryRowCount, 0);
     EXPECT_FALSE(f.bSplCatRefused);
+    EXPECT_FALSE(f.bSplCatFreeMissing);
     EXPECT_EQ(f.szSchemeCustomer, "C003");
 }
 

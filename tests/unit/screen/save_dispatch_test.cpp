@@ -87,6 +87,13 @@ TEST_F(SaveTest, AStockRefusalOnTheLastRowTakesTheWholeNoteBack) {
     EXPECT_EQ(f.DTFlexDispatch.GridRow(), 2);
     EXPECT_EQ(f.DTFlexDispatch.GridCol(), grid::colSalePrice);
     EXPECT_EQ(f.ActiveControl(), &f.DTFlexDispatch);
+    EXPECT_FALSE(f.bQtyRefused) << "a row at the item's price leaves the quantity standing";
+
+    // At the customer's price the same refusal marks the row's quantity refused.
+    f.DTFlexDispatch.SetCell(2, grid::colPriceOption, "1");
+    EXPECT_FALSE(f.SaveDispatch());
+    EXPECT_TRUE(Tables() == tables);
+    EXPECT_TRUE(f.bQtyRefused);
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 

@@ -109,6 +109,26 @@ TEST_F(GridKeysRows, AFreeRowTakesOnlyTheMovingKeys) {
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
+TEST_F(GridKeysRows, SpaceInTheQuantityShowsTheItemsSchemesWithTheStoredNoteOfAnAmendmentOnly) {
+    auto& f = OpenNote();
+    Lines({{"FD001", "1", ""}, {"FD002", "2", ""}});
+    f.txtCustomer.Tag = "C005";
+    f.nDispatchID = 42;
+    f.DTFlexDispatch.UserGoto(2, colQuantity);
+    int code = 32;
+    f.DTFlexDispatch_KeyCode(code, 0);
+    EXPECT_TRUE(TranscriptHas("ShowItemSchemes \"FD002\" 2026-11-22 \"C005\" [")) << ErrorLines();
+    EXPECT_TRUE(TranscriptHas("] 0 -> ok"));
+    EXPECT_FALSE(f.bSchemeViewKey);
+
+    f.nMode = screen::mode::Amendment;
+    f.DTFlexDispatch.SetCell(2, colQuantity, "0");
+    code = 32;
+    f.DTFlexDispatch_KeyCode(code, 0);
+    EXPECT_TRUE(TranscriptHas("\"C005\" [] 42 -> ok")) << "no quantity, no total";
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
 TEST_F(GridKeysRows, SlashInTheQuantityNeverLandsInIt) {
     auto& f = OpenNote();
     Lines({{"FD001", "1", ""}});

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "grid/row_model/grid_columns.h"
+#include "host/auto_list.h"
 #include "screen_fixture.h"
 
 namespace screen_test {
@@ -127,6 +128,18 @@ TEST_F(GridKeysRows, SpaceInTheQuantityShowsTheItemsSchemesWithTheStoredNoteOfAn
     f.DTFlexDispatch_KeyCode(code, 0);
     EXPECT_TRUE(TranscriptHas("\"C005\" [] 42 -> ok")) << "no quantity, no total";
     EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(GridKeysRows, PastingLeavesTheItemListToTheUser) {
+    auto& f = OpenNote();
+    Lines({});
+    f.DTFlexDispatch.UserGoto(1, colItemCode);
+    int code = 'V';
+    f.DTFlexDispatch_KeyCode(code, 2);  // Ctrl+V
+    auto* list = dynamic_cast<host::PlainAutoList*>(f.objItemList.get());
+    ASSERT_NE(list, nullptr);
+    EXPECT_FALSE(list->ProgramWriting());
+    EXPECT_EQ(Rows(), "") << "the copy's lines are gone by the time of the paste";
 }
 
 TEST_F(GridKeysRows, SlashInTheQuantityNeverLandsInIt) {

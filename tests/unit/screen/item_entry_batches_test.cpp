@@ -69,6 +69,21 @@ TEST_F(BatchList, TheListShowsStockInTheRowsUnitAndMarksFreeStock) {
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
+TEST_F(BatchList, MovingOntoARowShowsItsBatchesUnlessTheRowHasNoName) {
+    OpenNote();
+    ItemLine("FD001", "2", 24);
+    form->DTFlexDispatch_RowColChange(1, grid::colQuantity);
+    EXPECT_TRUE(form->FrameAvailable.Visible);
+    EXPECT_TRUE(form->cmdChange.Visible);
+    EXPECT_GT(form->lstAvailable.Count(), 0);
+
+    form->DTFlexDispatch.SetCell(1, grid::colItemName, " ");
+    form->DTFlexDispatch_RowColChange(1, grid::colQuantity);
+    EXPECT_FALSE(form->FrameAvailable.Visible);
+    EXPECT_FALSE(form->cmdChange.Visible);
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
 TEST_F(BatchList, TheRowsBatchIsSelectedAndTheRowTakesTheEntryTheUserMovesTo) {
     OpenNote();
     ItemLine("FD001", "2", 24);

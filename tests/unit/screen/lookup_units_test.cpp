@@ -170,6 +170,8 @@ TEST_F(UnitsOfMeasure, CopyFindsTheQuantityColumnAndPasteAddsNothing) {
     f.PasteGridItems(grid);
     EXPECT_EQ(grid.GridRows(), 2);
     EXPECT_TRUE(grid.IsBlankRow(2));
+    grid.SetGridRows(1);
+    EXPECT_EQ(f.FirstBlankGridRow(grid), 0) << "every row holds a line";
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 

@@ -195,6 +195,7 @@ def main():
     lines = candidate_lines()
     rng.shuffle(lines)
     rows, totals = [], {"caught": 0, "survived": 0, "no-compile": 0}
+    interrupted = True
     try:
         for path, number in lines:
             if totals["caught"] + totals["survived"] >= args.count:
@@ -215,17 +216,19 @@ def main():
             rel = path.relative_to(ROOT)
             rows.append(f"{verdict:<10} {rel}:{number}\n    - {original.strip()}\n    + {mutant.strip()}")
             print(f"{verdict:<10} {rel}:{number} ({time.time() - began:.0f}s)  {mutant.strip()}", flush=True)
+        interrupted = False
     finally:
         restorer.restore()
+        # An interrupted run still reports what it measured.
+        counted = totals["caught"] + totals["survived"]
+        share = f"{100 * totals['caught'] / counted:.0f}%" if counted else "-"
+        summary = (f"seed {args.seed}, counted {counted}: caught {totals['caught']}, survived "
+                   f"{totals['survived']} ({share} caught); did not compile {totals['no-compile']}"
+                   + (" (interrupted)" if interrupted else ""))
+        args.report.write_text("\n".join(rows) + "\n\n" + summary + "\n")
+        print(summary)
+        print(f"report: {args.report}")
         build(args)  # leave the build folder matching the tree
-
-    counted = totals["caught"] + totals["survived"]
-    share = f"{100 * totals['caught'] / counted:.0f}%" if counted else "-"
-    summary = (f"seed {args.seed}, counted {counted}: caught {totals['caught']}, survived "
-               f"{totals['survived']} ({share} caught); did not compile {totals['no-compile']}")
-    args.report.write_text("\n".join(rows) + "\n\n" + summary + "\n")
-    print(summary)
-    print(f"report: {args.report}")
 
 
 if __name__ == "__main__":

@@ -142,6 +142,24 @@ TEST_F(BatchList, InAnAmendmentAnExpiredBatchTheNoteHoldsComesBack) {
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
+TEST_F(BatchList, WhatTheNoteTookGoesBackOnTheEntryOfItsBatchPriceAndKind) {
+    MarieListed();
+    form->AddUnBatchQty("mb2401", 216, 48, 0);
+    form->AddUnBatchQty("MB2401", 0, 24, 1);
+    form->AddUnBatchQty("MB2402", 999, 24, 0);  // no entry at that price
+    form->AddUnBatchQty("MB2402", 216, 0, 0);
+    EXPECT_EQ(ListEntries(), "MB2401|216.00|102|;MB2401|0.00|21|Yes;MB2402|216.00|50|");
+
+    // The row's free-stock flag says which kind of entry takes it back.
+    SetCell(grid::colFreeRow, "1");
+    form->PreserveOriginalQty("MB2401", "", "", 0, 24);
+    SetCell(grid::colFreeRow, "0");
+    form->dUOMRate = 1;
+    form->PreserveOriginalQty("MB2402", "", "", 216, 1);
+    EXPECT_EQ(ListEntries(), "MB2401|216.00|102|;MB2401|0.00|22|Yes;MB2402|216.00|51|");
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
 TEST_F(BatchList, TheStatusLineShowsTheBatchAndTheTotalInTheRowsUnit) {
     MarieListed();
     form->nBatchTrack = 1;

@@ -56,6 +56,9 @@ TEST_F(BatchList, TheListShowsStockInTheRowsUnitAndMarksFreeStock) {
     EXPECT_EQ(first.SubItem(2), "216.00");
     EXPECT_EQ(first.SubItemTag(2), "216");
     EXPECT_EQ(first.SubItem(4), Scalar("SELECT strftime('%m/%Y', PKD) FROM Batch_Products WHERE Batch_Code = 1"));
+    // The trade prices of a box, for the row to take from.
+    EXPECT_EQ(first.SubItem(8) + " " + first.SubItem(9),
+              Scalar("SELECT printf('%.2f %.2f', PTS * 24, PTR * 24) FROM Batch_Products WHERE Batch_Code = 1"));
     EXPECT_EQ(form->szBatchItemCode, "FD001");
     EXPECT_EQ(Cell(grid::colBatchSelection), "1");
     // The widths of screen 1; the price column only for items priced by batch.

@@ -136,12 +136,14 @@ TEST_F(BatchList, InAnAmendmentAnExpiredBatchTheNoteHoldsComesBack) {
     SetCell(grid::colBatch, "MB2312");
     SetCell(grid::colStoredQty, "2");
     SetCell(grid::colBatchCode, "3");
+    database->ExecuteNative("UPDATE Batch_Products SET ApplicableOn = 2 WHERE Batch_Code = 3");
     form->DispatchBatchDetails("FD001", "MB2312", "216", 1, 0, 1, "MB2312");
     ASSERT_EQ(form->lstAvailable.Count(), 4);
     const auto& added = form->lstAvailable.Item(4);
     EXPECT_EQ(added.Text, "MB2312");
     EXPECT_EQ(added.SubItem(3), "48") << "the stored quantity times the rate, as the list always showed it";
     EXPECT_EQ(added.SubItem(5), "");
+    EXPECT_EQ(added.SubItem(11), "PTR") << "what the batch's price applies on";
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 

@@ -104,7 +104,9 @@ TEST_F(UnitsOfMeasure, AChoiceFromTheListSetsUnitAndRateAndEnterGoesOnToTheQuant
     Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "FD001", "Marie Biscuit 100g", "9");
     f.LoadItemUOM("FD001", 1);
     f.DTFlexDispatch.SetGridCol(grid::colUOM);
+    f.txtRemarks.SetFocus();
     f.lstUOM.SetListIndex(3);  // CASE, with its click
+    EXPECT_EQ(f.ActiveControl(), &f.txtRemarks) << "a click leaves the focus where it was";
     EXPECT_EQ(Cell(grid::colUOMID), "3");
     EXPECT_EQ(Cell(grid::colUOM), "CASE");
     EXPECT_DOUBLE_EQ(f.dUOMRate, 240);

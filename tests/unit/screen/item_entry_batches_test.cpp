@@ -147,6 +147,15 @@ TEST_F(BatchList, InAnAmendmentAnExpiredBatchTheNoteHoldsComesBack) {
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
+TEST_F(BatchList, AnItemWithoutBatchesHasItsFirstEntrySelected) {
+    OpenNote();
+    ItemLine("PC002", "4", 1);
+    form->DispatchBatchDetails("PC002", "", "999", 0, 0, 0, "");
+    ASSERT_GT(form->lstAvailable.Count(), 0);
+    EXPECT_EQ(form->lstAvailable.SelectedIndex(), 1);
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
 TEST_F(BatchList, WhatTheNoteTookGoesBackOnTheEntryOfItsBatchPriceAndKind) {
     MarieListed();
     form->AddUnBatchQty("mb2401", 216, 48, 0);

@@ -86,6 +86,13 @@ TEST_F(SaveTest, ANoteFromASalesConfirmationLowersItsPendingLinesAndClosesIt) {
     EXPECT_TRUE(f.txtref.Locked);
 }
 
+TEST_F(SaveTest, StockThatCannotBeReadCountsAsNone) {
+    auto& f = Open(2);
+    faults->FailMatching("spr_get_total_bookstock");
+    EXPECT_EQ(f.GetTotalBookStock("FD001"), 0);
+    EXPECT_EQ(Errors(), 1) << "the failure is reported";
+}
+
 TEST_F(SaveTest, AStockRefusalOnTheLastRowTakesTheWholeNoteBack) {
     auto& f = KeyNoteForRavi();
     // Another clerk has taken most of the batch since the line was keyed.

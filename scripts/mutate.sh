@@ -207,7 +207,8 @@ def main():
             text[number - 1] = mutant
             restorer.mutate(path, "\n".join(text))
             began = time.time()
-            if build(args) != 0:
+            # A build that fails twice is the mutant's; once may be the machine's.
+            if build(args) != 0 and build(args) != 0:
                 verdict = "no-compile"
             else:
                 verdict = "survived" if test(args) == 0 else "caught"

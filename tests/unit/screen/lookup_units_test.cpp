@@ -174,6 +174,8 @@ TEST_F(UnitsOfMeasure, CopyFindsTheQuantityColumnAndPasteAddsNothing) {
     EXPECT_TRUE(grid.IsBlankRow(2));
     grid.SetGridRows(1);
     EXPECT_EQ(f.FirstBlankGridRow(grid), 0) << "every row holds a line";
+    for (int col = 3; col <= grid.GridCols(); ++col) grid.SetCell(0, col, "");
+    EXPECT_EQ(f.FindQuantityColumn(grid, 1), 0) << "no heading speaks of a quantity";
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 

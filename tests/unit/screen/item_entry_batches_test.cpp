@@ -180,6 +180,7 @@ TEST_F(BatchList, TheStatusLineShowsTheBatchAndTheTotalInTheRowsUnit) {
     SetCell(grid::colBatch, "MB2401");
     form->ShowBatchStockStatus(1, grid::colItemName);
     EXPECT_EQ(LastStatus(), "Batch: MB2401, Total: 150");
+    EXPECT_TRUE(TranscriptHas("status 0 Batch: MB2401")) << "information, not a warning";
     form->ShowBatchStockStatus(1, grid::colQuantity);
     EXPECT_EQ(LastStatus(), "Total: 150");
 }

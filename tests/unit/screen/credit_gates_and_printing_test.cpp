@@ -114,6 +114,16 @@ TEST_F(Printing, AfterASaveTheModeDecidesWhetherToAskAndHowToPrint) {
     TemplateAt(folder, "[general]\nabstractsp = sp_print_DispatchAbstract\nDetailSP=sp_print_DispatchDetail\n");
     auto& f = Open(2);
 
+    // The document service without a template for the note prints nothing.
+    settings.Set("GetPrinterService", "1");
+    const std::string documentTemplate = settings.Text("PrintDocument");
+    settings.Set("PrintDocument", "");
+    settings.Set("GetPrintOnSaveMode", "0");
+    f.PrintSavedDispatch(9);
+    EXPECT_EQ(PrintLines(), "");
+    settings.Set("PrintDocument", documentTemplate);
+    settings.Set("GetPrinterService", "0");
+
     settings.Set("GetPrintOnSaveMode", "2");
     f.PrintSavedDispatch(9);
     EXPECT_EQ(PrintLines(), "");

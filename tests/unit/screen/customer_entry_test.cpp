@@ -37,17 +37,6 @@ TEST_F(CustomerEntry, TheListPageOffersAllCustomersButANewNoteDoesNot) {
     EXPECT_NE(rows.front(), "ALL CUSTOMERS");
 }
 
-TEST_F(CustomerEntry, ATypedNameWithoutAChoiceIsRefused) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
-    Type(f.txtCustomer, "Anand Traders");  // no such customer: the list has nothing to pick
-    ASSERT_TRUE(ListRows().empty());
-    Key(f.txtCustomer, 13);
-    EXPECT_EQ(LastStatus(), "Select an existing Customer.");
-    EXPECT_EQ(f.txtCustomer.Text(), "");
-    EXPECT_EQ(f.txtCustomerID.Tag, "");
-    EXPECT_EQ(f.ActiveControl(), &f.txtCustomer);
-}
-
 TEST_F(CustomerEntry, EnterWithTheListOpenTakesItsHighlightedRow) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     Type(f.txtCustomer, "Anand");

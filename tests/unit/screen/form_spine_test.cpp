@@ -10,28 +10,6 @@ using screen::Zuro_frmDispatch_Dispatch;
 
 class FormSpine : public ScreenTest {};
 
-TEST_F(FormSpine, EveryModeOpensOnItsPageWithoutAnError) {
-    for (long mode = 1; mode <= 7; ++mode) {
-        SCOPED_TRACE("mode " + std::to_string(mode));
-        Zuro_frmDispatch_Dispatch& f = Open(mode);
-        EXPECT_EQ(Errors(), 0) << ErrorLines();
-        EXPECT_EQ(f.nMode, mode);
-        if (mode == 2) {
-            EXPECT_EQ(f.ActiveControl(), &f.txtSalesman);
-            EXPECT_TRUE(f.Frame3.Enabled);
-            EXPECT_FALSE(f.Frame1(0).Enabled);
-            EXPECT_EQ(f.Frame1(0).Top, -10000);
-        } else {
-            EXPECT_EQ(f.ActiveControl(), &f.txtCustomer);
-            EXPECT_EQ(f.txtCustomer.Tag, "%");
-            EXPECT_EQ(f.txtCustomerID.Text(), "ALL CUSTOMERS");
-            EXPECT_FALSE(f.Frame3.Enabled);
-            EXPECT_EQ(f.Frame3.Top, -10000);
-        }
-        f.Close();
-    }
-}
-
 TEST_F(FormSpine, EachModeTitlesItsFrame) {
     const char* titles[] = {"Dispatch from Sales Confirmation", "Generate New Dispatch", "Dispatch from Purchase Order",
                             "View Dispatch", "Cancel Dispatch", "Dispatch from Sales Confirmation", "Dispatch Amendment"};

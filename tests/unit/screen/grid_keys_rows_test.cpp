@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "grid/row_model/grid_columns.h"
+#include "host/auto_list.h"
 #include "screen_fixture.h"
 
 namespace screen_test {
@@ -109,6 +110,38 @@ TEST_F(GridKeysRows, AFreeRowTakesOnlyTheMovingKeys) {
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
+TEST_F(GridKeysRows, SpaceInTheQuantityShowsTheItemsSchemesWithTheStoredNoteOfAnAmendmentOnly) {
+    auto& f = OpenNote();
+    Lines({{"FD001", "1", ""}, {"FD002", "2", ""}});
+    f.txtCustomer.Tag = "C005";
+    f.nDispatchID = 42;
+    f.DTFlexDispatch.UserGoto(2, colQuantity);
+    int code = 32;
+    f.DTFlexDispatch_KeyCode(code, 0);
+    EXPECT_TRUE(TranscriptHas("ShowItemSchemes \"FD002\" 2026-11-22 \"C005\" [")) << ErrorLines();
+    EXPECT_TRUE(TranscriptHas("] 0 -> ok"));
+    EXPECT_FALSE(f.bSchemeViewKey);
+
+    f.nMode = screen::mode::Amendment;
+    f.DTFlexDispatch.SetCell(2, colQuantity, "0");
+    code = 32;
+    f.DTFlexDispatch_KeyCode(code, 0);
+    EXPECT_TRUE(TranscriptHas("\"C005\" [] 42 -> ok")) << "no quantity, no total";
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(GridKeysRows, PastingLeavesTheItemListToTheUser) {
+    auto& f = OpenNote();
+    Lines({});
+    f.DTFlexDispatch.UserGoto(1, colItemCode);
+    int code = 'V';
+    f.DTFlexDispatch_KeyCode(code, 2);  // Ctrl+V
+    auto* list = dynamic_cast<host::PlainAutoList*>(f.objItemList.get());
+    ASSERT_NE(list, nullptr);
+    EXPECT_FALSE(list->ProgramWriting());
+    EXPECT_EQ(Rows(), "") << "the copy's lines are gone by the time of the paste";
+}
+
 TEST_F(GridKeysRows, SlashInTheQuantityNeverLandsInIt) {
     auto& f = OpenNote();
     Lines({{"FD001", "1", ""}});
@@ -152,6 +185,13 @@ TEST_F(GridKeysRows, DeletingAFreeRowLeavesThePrimaries) {
     EXPECT_EQ(Rows(), "A:2");
     // The free row's link named row 1, and its previous quantity is forgotten.
     EXPECT_EQ(form->DTFlexDispatch.GetCell(1, colPrevQty), "");
+
+    // A link may name the grid's last row, here the blank entry row.
+    Lines({{"A", "1", ""}, {"AF", "2", "3", true}});
+    form->DTFlexDispatch.SetCell(3, colPrevQty, "5");
+    form->DTFlexDispatch.UserDeleteRow(2);
+    EXPECT_EQ(form->DTFlexDispatch.GetCell(2, colPrevQty), "");
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
 TEST_F(GridKeysRows, WithoutOtherGroupFreeItemsTheSchemeUndoRemovesTheFreeRows) {
@@ -186,16 +226,22 @@ TEST_F(GridKeysRows, TheLastRowDeletedForgetsTheSchemeRuns) {
     auto& f = OpenNote();
     Lines({{"A", "1", ""}});
     f.arrPrevSKU.push_back({platform::Value("A"), platform::Value(5.0), platform::Value(0.0), platform::Value(1), platform::Value(1)});
+    f.arrCurrSKU = f.arrPrevSKU;
     f.nPrevSKUCount = 1;
+    f.nCurrSKUCount = 1;
     f.nPrimaryRowCount = 1;
     f.bSplCatRefused = true;
+    f.bSplCatFreeMissing = true;
     f.txtCustomer.Tag = "C003";
     f.DTFlexDispatch.UserDeleteRow(1);
     ASSERT_EQ(f.DTFlexDispatch.GridRows(), 1);
     EXPECT_TRUE(f.arrPrevSKU.empty());
+    EXPECT_TRUE(f.arrCurrSKU.empty());
     EXPECT_EQ(f.nPrevSKUCount, 0);
+    EXPECT_EQ(f.nCurrSKUCount, 0);
     EXPECT_EQ(f.nPrimaryRowCount, 0);
     EXPECT_FALSE(f.bSplCatRefused);
+    EXPECT_FALSE(f.bSplCatFreeMissing);
     EXPECT_EQ(f.szSchemeCustomer, "C003");
 }
 

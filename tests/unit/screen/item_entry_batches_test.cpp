@@ -56,6 +56,9 @@ TEST_F(BatchList, TheListShowsStockInTheRowsUnitAndMarksFreeStock) {
     EXPECT_EQ(first.SubItem(2), "216.00");
     EXPECT_EQ(first.SubItemTag(2), "216");
     EXPECT_EQ(first.SubItem(4), Scalar("SELECT strftime('%m/%Y', PKD) FROM Batch_Products WHERE Batch_Code = 1"));
+    // The trade prices of a box, for the row to take from.
+    EXPECT_EQ(first.SubItem(8) + " " + first.SubItem(9),
+              Scalar("SELECT printf('%.2f %.2f', PTS * 24, PTR * 24) FROM Batch_Products WHERE Batch_Code = 1"));
     EXPECT_EQ(form->szBatchItemCode, "FD001");
     EXPECT_EQ(Cell(grid::colBatchSelection), "1");
     // The widths of screen 1; the price column only for items priced by batch.
@@ -66,6 +69,21 @@ TEST_F(BatchList, TheListShowsStockInTheRowsUnitAndMarksFreeStock) {
     EXPECT_EQ(headers[3].Width, 1000);
     EXPECT_EQ(headers[4].Width, 800) << "Marie carries packing dates";
     EXPECT_EQ(headers[5].Width, 800);
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(BatchList, MovingOntoARowShowsItsBatchesUnlessTheRowHasNoName) {
+    OpenNote();
+    ItemLine("FD001", "2", 24);
+    form->DTFlexDispatch_RowColChange(1, grid::colQuantity);
+    EXPECT_TRUE(form->FrameAvailable.Visible);
+    EXPECT_TRUE(form->cmdChange.Visible);
+    EXPECT_GT(form->lstAvailable.Count(), 0);
+
+    form->DTFlexDispatch.SetCell(1, grid::colItemName, " ");
+    form->DTFlexDispatch_RowColChange(1, grid::colQuantity);
+    EXPECT_FALSE(form->FrameAvailable.Visible);
+    EXPECT_FALSE(form->cmdChange.Visible);
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
@@ -118,12 +136,41 @@ TEST_F(BatchList, InAnAmendmentAnExpiredBatchTheNoteHoldsComesBack) {
     SetCell(grid::colBatch, "MB2312");
     SetCell(grid::colStoredQty, "2");
     SetCell(grid::colBatchCode, "3");
+    database->ExecuteNative("UPDATE Batch_Products SET ApplicableOn = 2 WHERE Batch_Code = 3");
     form->DispatchBatchDetails("FD001", "MB2312", "216", 1, 0, 1, "MB2312");
     ASSERT_EQ(form->lstAvailable.Count(), 4);
     const auto& added = form->lstAvailable.Item(4);
     EXPECT_EQ(added.Text, "MB2312");
     EXPECT_EQ(added.SubItem(3), "48") << "the stored quantity times the rate, as the list always showed it";
     EXPECT_EQ(added.SubItem(5), "");
+    EXPECT_EQ(added.SubItem(11), "PTR") << "what the batch's price applies on";
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(BatchList, AnItemWithoutBatchesHasItsFirstEntrySelected) {
+    OpenNote();
+    ItemLine("PC002", "4", 1);
+    form->DispatchBatchDetails("PC002", "", "999", 0, 0, 0, "");
+    ASSERT_GT(form->lstAvailable.Count(), 0);
+    EXPECT_EQ(form->lstAvailable.SelectedIndex(), 1);
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(BatchList, WhatTheNoteTookGoesBackOnTheEntryOfItsBatchPriceAndKind) {
+    MarieListed();
+    form->AddUnBatchQty("mb2401", 216, 48, 0);
+    form->AddUnBatchQty("MB2401", 0, 24, 1);
+    form->AddUnBatchQty("MB2402", 999, 24, 0);  // no entry at that price
+    form->AddUnBatchQty("MB2402", 216, 0, 0);
+    EXPECT_EQ(ListEntries(), "MB2401|216.00|102|;MB2401|0.00|21|Yes;MB2402|216.00|50|");
+
+    // The row's free-stock flag says which kind of entry takes it back.
+    SetCell(grid::colFreeRow, "1");
+    form->PreserveOriginalQty("MB2401", "", "", 0, 24);
+    SetCell(grid::colFreeRow, "0");
+    form->dUOMRate = 1;
+    form->PreserveOriginalQty("MB2402", "", "", 216, 1);
+    EXPECT_EQ(ListEntries(), "MB2401|216.00|102|;MB2401|0.00|22|Yes;MB2402|216.00|51|");
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
@@ -133,6 +180,7 @@ TEST_F(BatchList, TheStatusLineShowsTheBatchAndTheTotalInTheRowsUnit) {
     SetCell(grid::colBatch, "MB2401");
     form->ShowBatchStockStatus(1, grid::colItemName);
     EXPECT_EQ(LastStatus(), "Batch: MB2401, Total: 150");
+    EXPECT_TRUE(TranscriptHas("status 0 Batch: MB2401")) << "information, not a warning";
     form->ShowBatchStockStatus(1, grid::colQuantity);
     EXPECT_EQ(LastStatus(), "Total: 150");
 }

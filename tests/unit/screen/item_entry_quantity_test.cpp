@@ -23,6 +23,7 @@ TEST_F(QuantityEntry, AProductInASingleUnitRowIsASyntaxErrorNotSix) {
     EXPECT_EQ(LastStatus(), kSyntax);
     EXPECT_TRUE(form->bQtySyntaxError);
     EXPECT_EQ(Cell(grid::colQuantity), "2*3");  // the text typed stays for correction
+    EXPECT_EQ(Cell(grid::colSerialNo), "") << "a refused quantity gives no serial";
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 

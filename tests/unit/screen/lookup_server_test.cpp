@@ -9,10 +9,7 @@
 
 namespace {
 
-using parties_test::MakeDemoDatabase;
-using parties_test::ScratchDatabase;
-
-class ItemServerObjects : public ::testing::Test {
+class ItemServerObjects : public screen_test::ScreenTest {
 protected:
     std::string Rows(const platform::RecordsetPtr& rs) { return parties_test::RowsText(rs); }
     std::string Codes(const std::string& source) {
@@ -23,9 +20,6 @@ protected:
     }
     static platform::Parameter Int(long n) { return {platform::Value(n), platform::adtype::Integer}; }
     static platform::Parameter Text(const std::string& s) { return {platform::Value(s), platform::adtype::VarChar}; }
-
-    ScratchDatabase file;
-    std::shared_ptr<server::EmbeddedConnection> database = MakeDemoDatabase(file.Path());
 };
 
 TEST_F(ItemServerObjects, GroupsGiveTheActiveItemsOfTheirCategories) {

@@ -104,7 +104,9 @@ TEST_F(UnitsOfMeasure, AChoiceFromTheListSetsUnitAndRateAndEnterGoesOnToTheQuant
     Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "FD001", "Marie Biscuit 100g", "9");
     f.LoadItemUOM("FD001", 1);
     f.DTFlexDispatch.SetGridCol(grid::colUOM);
+    f.txtRemarks.SetFocus();
     f.lstUOM.SetListIndex(3);  // CASE, with its click
+    EXPECT_EQ(f.ActiveControl(), &f.txtRemarks) << "a click leaves the focus where it was";
     EXPECT_EQ(Cell(grid::colUOMID), "3");
     EXPECT_EQ(Cell(grid::colUOM), "CASE");
     EXPECT_DOUBLE_EQ(f.dUOMRate, 240);
@@ -170,6 +172,10 @@ TEST_F(UnitsOfMeasure, CopyFindsTheQuantityColumnAndPasteAddsNothing) {
     f.PasteGridItems(grid);
     EXPECT_EQ(grid.GridRows(), 2);
     EXPECT_TRUE(grid.IsBlankRow(2));
+    grid.SetGridRows(1);
+    EXPECT_EQ(f.FirstBlankGridRow(grid), 0) << "every row holds a line";
+    for (int col = 3; col <= grid.GridCols(); ++col) grid.SetCell(0, col, "");
+    EXPECT_EQ(f.FindQuantityColumn(grid, 1), 0) << "no heading speaks of a quantity";
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 

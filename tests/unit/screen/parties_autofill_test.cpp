@@ -8,42 +8,6 @@ namespace {
 
 class PartiesAutofill : public PartiesTest {};
 
-TEST_F(PartiesAutofill, ASalesmanOnOneBeatFillsTheBeatAndHisOnlyGroup) {
-    auto& f = Form();
-    Pick(f.txtSalesman, "Chitra Devi", "3");
-    EnterSalesman();
-
-    EXPECT_EQ(f.txtBeat.Text(), "Velachery");
-    EXPECT_EQ(f.txtBeat.Tag, "5");
-    // Two customers stand on the beat: neither is chosen for the clerk.
-    EXPECT_EQ(f.txtCustomer.Text(), "");
-    EXPECT_EQ(f.txtCustomer.Tag, "");
-    EXPECT_EQ(f.txtCategory.Text(), "Health Care");
-    EXPECT_EQ(f.txtCategory.Tag, "4");
-    // Filled by itself, so focus looks for the first field still empty.
-    EXPECT_EQ(Focused(), "txtCustomer");
-    EXPECT_FALSE(f.bPartyAutoFilled);
-    EXPECT_EQ(f.nPrevSalesmanID, 3);
-    EXPECT_EQ(f.nPrevBeatID, 5);
-    EXPECT_EQ(f.szPrevGroupID, "4");
-    EXPECT_EQ(ErrorLines(), std::vector<std::string>{});
-}
-
-TEST_F(PartiesAutofill, ASalesmanOnSeveralBeatsLeavesTheBeatOpenAndListsHisGroups) {
-    auto& f = Form();
-    Pick(f.txtSalesman, "Arun Kumar", "1");
-    EnterSalesman();
-
-    EXPECT_EQ(f.txtBeat.Text(), "");
-    EXPECT_EQ(f.txtBeat.Tag, "");
-    EXPECT_EQ(f.txtCategory.Tag, "1,2");
-    EXPECT_EQ(f.txtCategory.Text(), "Foods, Beverages");
-    EXPECT_EQ(f.szGroupIDs, "1,2");
-    // Nothing filled itself: Enter moves on to the beat.
-    EXPECT_EQ(Focused(), "txtBeat");
-    EXPECT_TRUE(Numbered().empty());
-}
-
 TEST_F(PartiesAutofill, ASalesmanMappedToEveryGroupGetsAllCategoriesAndIsRefused) {
     auto& f = Form();
     Pick(f.txtSalesman, "Dinesh Raj", "4");
@@ -73,21 +37,6 @@ TEST_F(PartiesAutofill, ABeatWithOneCustomerFillsBothCustomerBoxesAndTheAddresse
     // Every party filled: focus moves on past them.
     EXPECT_EQ(Focused(), "txtref");
     EXPECT_EQ(f.szPrevCustomerCode, "C011");
-}
-
-TEST_F(PartiesAutofill, ACustomerBringsHisDefaultSalesmanBeatAndGroup) {
-    auto& f = Form();
-    Pick(f.txtCustomer, "Nila Enterprises", "C011");
-    int key = 13;
-    f.txtCustomer_KeyDown(key, 0);
-
-    EXPECT_EQ(f.txtSalesman.Text(), "Bala Murugan");
-    EXPECT_EQ(f.txtSalesman.Tag, "2");
-    EXPECT_EQ(f.txtBeat.Text(), "Adyar");
-    EXPECT_EQ(f.txtBeat.Tag, "4");
-    EXPECT_EQ(f.txtCategory.Text(), "Personal Care");
-    EXPECT_EQ(f.txtCategory.Tag, "3");
-    EXPECT_EQ(ErrorLines(), std::vector<std::string>{});
 }
 
 TEST_F(PartiesAutofill, LoadBeatRestoresThePreviousBeatOnlyWhileItIsAllowed) {

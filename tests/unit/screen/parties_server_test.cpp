@@ -9,10 +9,7 @@
 
 namespace {
 
-using parties_test::MakeDemoDatabase;
-using parties_test::ScratchDatabase;
-
-class PartyServerObjects : public ::testing::Test {
+class PartyServerObjects : public screen_test::ScreenTest {
 protected:
     // Rows as "a|b;c|d".
     std::string Rows(const platform::RecordsetPtr& rs) { return parties_test::RowsText(rs); }
@@ -22,9 +19,6 @@ protected:
     }
     static platform::Parameter Int(long n) { return {platform::Value(n), platform::adtype::Integer}; }
     static platform::Parameter Text(const std::string& s) { return {platform::Value(s), platform::adtype::VarChar}; }
-
-    ScratchDatabase file;
-    std::shared_ptr<server::EmbeddedConnection> database = MakeDemoDatabase(file.Path());
 };
 
 TEST_F(PartyServerObjects, MappingNarrowsEachPartyAndZeroLeavesItOpen) {

@@ -72,6 +72,27 @@ TEST_F(SaveTest, EveryCallOfTheSaveFailingLeavesTablesAndGridAsTheyWere) {
     EXPECT_EQ(Scalar("SELECT COUNT(*) FROM DispatchAbstract WHERE CustomerID = 'C005' AND DispatchDate >= '2026-11-22'"), "1");
 }
 
+TEST_F(SaveTest, ANoteFromASalesConfirmationLowersItsPendingLinesAndClosesIt) {
+    auto& f = KeyNoteForRavi();
+    // As if keyed from confirmation 1, which holds Marie at 240 pieces pending.
+    f.nMode = screen::mode::FromSalesConfirmation;
+    f.szDocNumbers = "1";
+    ASSERT_TRUE(f.SaveDispatch()) << ErrorLines();
+    const std::string document = Scalar("SELECT MAX(DocumentID) FROM DispatchAbstract");
+    EXPECT_EQ(Scalar("SELECT Pending FROM SODetail WHERE SOLineID = 1"), "192");
+    EXPECT_EQ(Scalar("SELECT (Status & 128) || '|' || DispatchDocID FROM SOAbstract WHERE SONumber = 1"), "128|" + document);
+    // The list page comes back for the next confirmation.
+    EXPECT_TRUE(f.Frame1(0).Enabled);
+    EXPECT_TRUE(f.txtref.Locked);
+}
+
+TEST_F(SaveTest, StockThatCannotBeReadCountsAsNone) {
+    auto& f = Open(2);
+    faults->FailMatching("spr_get_total_bookstock");
+    EXPECT_EQ(f.GetTotalBookStock("FD001"), 0);
+    EXPECT_EQ(Errors(), 1) << "the failure is reported";
+}
+
 TEST_F(SaveTest, AStockRefusalOnTheLastRowTakesTheWholeNoteBack) {
     auto& f = KeyNoteForRavi();
     // Another clerk has taken most of the batch since the line was keyed.
@@ -87,6 +108,13 @@ TEST_F(SaveTest, AStockRefusalOnTheLastRowTakesTheWholeNoteBack) {
     EXPECT_EQ(f.DTFlexDispatch.GridRow(), 2);
     EXPECT_EQ(f.DTFlexDispatch.GridCol(), grid::colSalePrice);
     EXPECT_EQ(f.ActiveControl(), &f.DTFlexDispatch);
+    EXPECT_FALSE(f.bQtyRefused) << "a row at the item's price leaves the quantity standing";
+
+    // At the customer's price the same refusal marks the row's quantity refused.
+    f.DTFlexDispatch.SetCell(2, grid::colPriceOption, "1");
+    EXPECT_FALSE(f.SaveDispatch());
+    EXPECT_TRUE(Tables() == tables);
+    EXPECT_TRUE(f.bQtyRefused);
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 

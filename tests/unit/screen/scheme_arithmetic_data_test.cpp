@@ -20,6 +20,13 @@ TEST_F(SchemeData, ListsWithoutDuplicates) {
     EXPECT_EQ(f.AddStringwithCheck("", "A", "|"), "A|");
 }
 
+TEST_F(SchemeData, AnItemsSaleTypeComesFromTheMasterAndIsTwoForAnUnknownItem) {
+    auto& f = Open(2);
+    database->ExecuteNative("UPDATE Items SET SaleID = 1 WHERE Product_Code = 'FD001'");
+    EXPECT_EQ(f.GetSaleID("FD001"), 1);
+    EXPECT_EQ(f.GetSaleID("ZZ999"), 2);
+}
+
 TEST_F(SchemeData, FreeGoodsAreThereOnlyWhenTheSlabHasAnItemInStock) {
     auto& f = Open(2);
     EXPECT_EQ(f.chkFreeItemFound(206, 2061), 1);  // two free drinks to choose from, in stock

@@ -25,14 +25,8 @@ TEST_F(SaveDetail, TakesAPricedLineFromTheBatchesInTheStockListsOrder) {
     const long long note = NewNote();
     // Cream Biscuit, no batch named, 12.5 boxes: the batch that expires first (CB102)
     // goes first, then CB101; the free stock of CB101 is not for sale.
-    Line line;
-    line.dispatchID = note;
-    line.item = "FD002";
-    line.baseQuantity = 150;
-    line.unitQuantity = 12.5;
-    line.unitPrice = 156;
-    line.originalPrice = 13;
-    line.rowNumber = 3;
+    Line line{.dispatchID = note, .item = "FD002", .originalPrice = 13, .baseQuantity = 150, .unitQuantity = 12.5,
+              .unitPrice = 156, .rowNumber = 3};
     EXPECT_EQ(StoreLine(line), 1);
     EXPECT_EQ(BatchQuantities(*this, "5, 6, 7"), "5=594.0 6=120.0 7=0.0");
     // One row a batch, one serial, the boxes shared in proportion.
@@ -44,10 +38,8 @@ TEST_F(SaveDetail, TakesAPricedLineFromTheBatchesInTheStockListsOrder) {
 
 TEST_F(SaveDetail, ANamedNumberLimitsTheBatchesAndExpiryIsJudgedOnTheDispatchDay) {
     const long long note = NewNote();
-    Line line;
-    line.dispatchID = note;
-    line.batch = "mb2401";  // numbers match as the server's collation does
-    line.baseQuantity = 2401;
+    // The number matches as the server's collation does.
+    Line line{.dispatchID = note, .batch = "mb2401", .baseQuantity = 2401};
     // Batch 1 holds 2400 saleable; the 480 free pieces of the same number are not
     // for a priced line, and MB2402 has another number.
     EXPECT_EQ(StoreLine(line), 0);
@@ -67,13 +59,7 @@ TEST_F(SaveDetail, ANamedNumberLimitsTheBatchesAndExpiryIsJudgedOnTheDispatchDay
 
 TEST_F(SaveDetail, GivesFreeStockToFreeLinesOnlyAndPrefersTheKindTheLineStoodOn) {
     const long long note = NewNote();
-    Line free;
-    free.dispatchID = note;
-    free.batch = "MB2401";
-    free.freeItem = 1;
-    free.freeRow = 1;
-    free.unitPrice = 0;
-    free.originalPrice = 0;
+    Line free{.dispatchID = note, .batch = "MB2401", .originalPrice = 0, .freeItem = 1, .freeRow = 1, .unitPrice = 0};
     // A scheme's free box on the free batch of MB2401.
     EXPECT_EQ(StoreLine(free), 1);
     EXPECT_EQ(BatchQuantities(*this, "1, 4"), "1=2400.0 4=456.0");
@@ -89,15 +75,8 @@ TEST_F(SaveDetail, GivesFreeStockToFreeLinesOnlyAndPrefersTheKindTheLineStoodOn)
 
     // A line of another category group on free stock goes as not free, and still
     // takes the free batch it was shown.
-    Line other;
-    other.dispatchID = note;
-    other.item = "PC002";
-    other.batchTrack = 0;
-    other.freeRow = 1;
-    other.otherGroupItem = 1;
-    other.unit = 4;
-    other.baseQuantity = 10;
-    other.unitPrice = 0;
+    Line other{.dispatchID = note, .item = "PC002", .baseQuantity = 10, .batchTrack = 0, .freeRow = 1, .unit = 4,
+              .unitPrice = 0, .otherGroupItem = 1};
     EXPECT_EQ(StoreLine(other, false, false), 1);
     EXPECT_EQ(BatchQuantities(*this, "20, 21"), "20=2000.0 21=490.0");
 
@@ -109,10 +88,7 @@ TEST_F(SaveDetail, GivesFreeStockToFreeLinesOnlyAndPrefersTheKindTheLineStoodOn)
 
 TEST_F(SaveDetail, ARefusalTakesNothingAndStoresNothing) {
     const long long note = NewNote();
-    Line line;
-    line.dispatchID = note;
-    line.item = "FD002";
-    line.unitQuantity = 62.0833;
+    Line line{.dispatchID = note, .item = "FD002", .unitQuantity = 62.0833};
     // 744 saleable pieces (600 of CB101, 144 of CB102): one more is refused, though
     // the first batches of the plan could have been emptied.
     line.baseQuantity = 745;
@@ -142,16 +118,8 @@ TEST_F(SaveDetail, TheCustomerPriceProcedureTakesTheBatchAtTheShownPriceFirst) {
     const long long note = NewNote("C003");
     // PCM24A stands at two prices: batch 24, the older, at PTS 18.00 and PTR 19.50,
     // batch 25 at PTS 19.00 and PTR 20.50. Left to the stock list's order, 24 goes first.
-    Line line;
-    line.dispatchID = note;
-    line.item = "HC001";
-    line.batch = "PCM24A";
-    line.customerCategory = 2;
-    line.originalPrice = 20.50;
-    line.baseQuantity = 100;
-    line.unit = 2;
-    line.unitQuantity = 10;
-    line.unitPrice = 205;
+    Line line{.dispatchID = note, .item = "HC001", .batch = "PCM24A", .originalPrice = 20.50, .baseQuantity = 100,
+              .customerCategory = 2, .unit = 2, .unitQuantity = 10, .unitPrice = 205};
     EXPECT_EQ(StoreLine(line, true), 1);
     EXPECT_EQ(BatchQuantities(*this, "24, 25, 26"), "24=1000.0 25=400.0 26=1500.0");
 
@@ -171,15 +139,8 @@ TEST_F(SaveDetail, TheCustomerPriceProcedureTakesTheBatchAtTheShownPriceFirst) {
 TEST_F(SaveDetail, AnItemThatKeepsNoStockTakesNone) {
     const long long note = NewNote();
     // The display stand's category keeps no stock, whatever the screen sends.
-    Line stand;
-    stand.dispatchID = note;
-    stand.item = "PM001";
-    stand.batchTrack = 0;
-    stand.unit = 1;
-    stand.baseQuantity = 3;
-    stand.unitQuantity = 3;
-    stand.unitPrice = 150;
-    stand.originalPrice = 150;
+    Line stand{.dispatchID = note, .item = "PM001", .originalPrice = 150, .baseQuantity = 3, .batchTrack = 0,
+              .unit = 1, .unitQuantity = 3, .unitPrice = 150};
     EXPECT_EQ(StoreLine(stand), 1);
     // The screen's flag alone stops the take as well.
     Line crackers = stand;
@@ -195,18 +156,9 @@ TEST_F(SaveDetail, AnItemThatKeepsNoStockTakesNone) {
 
 TEST_F(SaveDetail, StoresEveryValueTheSaveSends) {
     const long long note = NewNote();
-    Line line;
-    line.dispatchID = note;
-    line.batch = "MB2402";
-    line.rowNumber = 4;
-    line.freeSerial = ",6";
-    line.schemeIDs = "201";
-    line.splCatSchemeIDs = "301";
-    line.splCatScheme = 1;
-    line.splCatSerial = "7,";
-    line.multiScheme = "201|2011|0|0";
-    line.multiSplCatScheme = "301|3011|0|0";
-    line.datedPosting = 1;
+    Line line{.dispatchID = note, .batch = "MB2402", .datedPosting = 1, .rowNumber = 4, .freeSerial = ",6",
+              .schemeIDs = "201", .splCatSchemeIDs = "301", .splCatScheme = 1, .splCatSerial = "7,",
+              .multiScheme = "201|2011|0|0", .multiSplCatScheme = "301|3011|0|0"};
     EXPECT_EQ(StoreLine(line, true, true), 1);
     EXPECT_EQ(Text("SELECT Serial, Product_Code, Batch_Code, Batch_Number, SalePrice, Quantity, UOM, UOMQty, UOMPrice, "
                    "Track_Batches, Track_Inventory, Price_Option, FreeItem, Free, OtherCG_Item, SchemeID, FreeSerial, "
@@ -216,10 +168,7 @@ TEST_F(SaveDetail, StoresEveryValueTheSaveSends) {
               "4|FD001|2|MB2402|9r|24r|2|1r|216r|1|1|1|0|0|0|0|,6|201|301|1|7,|201|201|2011|0|0|301|301|3011|0|0|2|1");
 
     // The short list sends the scheme as a number and the free serials as they stand.
-    Line shortLine;
-    shortLine.dispatchID = note;
-    shortLine.schemeID = 17;
-    shortLine.freeSerial = "5";
+    Line shortLine{.dispatchID = note, .schemeID = 17, .freeSerial = "5"};
     EXPECT_EQ(StoreLine(shortLine, false, false), 1);
     EXPECT_EQ(Text("SELECT SchemeID, FreeSerial, CSchemeID, Price_Option, CustomerCategory, DatedPosting "
                    "FROM DispatchDetail WHERE DispatchID = " + std::to_string(note) + " ORDER BY DetailID DESC LIMIT 1"),
@@ -235,10 +184,7 @@ TEST_F(SaveDetail, ANoteDatedBackLowersTheOpeningsOfTheLaterDays) {
     const std::string before = Text(openings);
     ASSERT_EQ(before, "4320.0/480.0 4320.0/480.0 4320.0/480.0");
     const long long note = NewNote();
-    Line line;
-    line.dispatchID = note;
-    line.batch = "MB2401";
-    line.dispatchDay = platform::Date{Today().serial - 3};
+    Line line{.dispatchID = note, .batch = "MB2401", .dispatchDay = platform::Date{Today().serial - 3}};
     // Without dated posting the openings stay.
     EXPECT_EQ(StoreLine(line), 1);
     EXPECT_EQ(Text(openings), before);
@@ -259,8 +205,7 @@ TEST_F(SaveDetail, RefusesWhatNoLineCanBeAndChangesNothing) {
     const long long note = NewNote();
     const std::string name = "sp_Save_dispatchdetail_UOM_QAX";
     auto refusal = [&](const Line& line) { return Refusal(name, line.Parameters(false, true)); };
-    Line line;
-    line.dispatchID = note;
+    Line line{.dispatchID = note};
 
     Line unknownNote = line;
     unknownNote.dispatchID = 999;

@@ -28,15 +28,8 @@ protected:
             start.arrive_and_wait();
             connection->BeginTrans();
             result.dispatchID = NewNote(*connection);
-            Line carton;
-            carton.dispatchID = result.dispatchID;
-            carton.item = "BV002";
-            carton.batch = "MJ10";
-            carton.originalPrice = 85;
-            carton.baseQuantity = 6;
-            carton.unit = 6;
-            carton.unitQuantity = 1;
-            carton.unitPrice = 510;
+            Line carton{.dispatchID = result.dispatchID, .item = "BV002", .batch = "MJ10", .originalPrice = 85,
+                      .baseQuantity = 6, .unit = 6, .unitQuantity = 1, .unitPrice = 510};
             result.stored = StoreLine(*connection, carton);
             connection->CommitTrans();
         } catch (const platform::RuntimeError& error) {

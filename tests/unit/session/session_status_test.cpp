@@ -23,14 +23,6 @@ TEST_F(SessionTest, UnknownVerbStopsAtItsLineWithStatusTwo) {
     EXPECT_EQ(std::count(Screen().events.begin(), Screen().events.end(), "cmdSave.Click"), 1);
 }
 
-TEST_F(SessionTest, BadQuotingRunsNothing) {
-    auto outcome = Run(kOpen + "type txtCustomer \"Acme\n");
-    EXPECT_EQ(outcome.status, 2);
-    EXPECT_EQ(outcome.err, "line 3: unterminated quote\n");
-    EXPECT_EQ(outcome.out, "");
-    EXPECT_EQ(openings.Last(), nullptr);
-}
-
 TEST_F(SessionTest, WrongControlsAndArgumentsAreScriptErrors) {
     struct Case {
         std::string line, reason;

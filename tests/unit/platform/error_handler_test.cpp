@@ -1,6 +1,7 @@
+// The error handler logs run-time errors under either fault policy; a fault of the
+// program that reaches it is logged by the released program, fatal in a strict build.
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -13,35 +14,40 @@
 namespace platform {
 namespace {
 
+using Entries = std::vector<std::pair<std::string, long>>;
+
 class MemoryLog : public ErrorLog {
 public:
     void ReportError(const std::string& description, long number) override { entries.emplace_back(description, number); }
-    std::vector<std::pair<std::string, long>> entries;
+    Entries entries;
+};
+
+class PolicyInForce {
+public:
+    explicit PolicyInForce(FaultPolicy policy) : previous_(SetFaultPolicy(policy)) {}
+    ~PolicyInForce() { SetFaultPolicy(previous_); }
+
+private:
+    FaultPolicy previous_;
 };
 
 TEST(RunHandled, LogsPrefixAndDescriptionWithTheNumberAndKeepsTheResult) {
     MemoryLog log;
     bool bResult = false;
-    const bool finished = RunHandled(log, "Dispatch: GetDetails - ", [&] {
+    EXPECT_FALSE(RunHandled(log, "Dispatch: GetDetails - ", [&] {
         bResult = true;  // set before the failure: stays as it stood
         throw RuntimeError(err::NoCurrentRecord);
-    });
-    EXPECT_FALSE(finished);
+    }));
     EXPECT_TRUE(bResult);
-    ASSERT_EQ(log.entries.size(), 1u);
-    EXPECT_EQ(log.entries[0].first, "Dispatch: GetDetails - " + StandardDescription(err::NoCurrentRecord));
-    EXPECT_EQ(log.entries[0].second, err::NoCurrentRecord);
-}
-
-TEST(RunHandled, LogsNothingWhenTheBodyRunsToItsEnd) {
-    MemoryLog log;
     int steps = 0;
     EXPECT_TRUE(RunHandled(log, "Dispatch: X - ", [&] { ++steps; }));
     EXPECT_EQ(steps, 1);
-    EXPECT_TRUE(log.entries.empty());
+    EXPECT_EQ(log.entries,
+              (Entries{{"Dispatch: GetDetails - " + StandardDescription(err::NoCurrentRecord), err::NoCurrentRecord}}));
 }
 
 TEST(RunHandledInTransaction, RollsBackOnlyAnOpenTransactionAndClearsTheFlag) {
+    PolicyInForce strict(FaultPolicy::Abort);  // run-time errors are logged even so
     MemoryLog log;
     testing::FakeConnection connection;
     bool bInTransaction = false;
@@ -52,16 +58,13 @@ TEST(RunHandledInTransaction, RollsBackOnlyAnOpenTransactionAndClearsTheFlag) {
     });
     EXPECT_FALSE(bInTransaction);
     EXPECT_EQ(connection.reached, (std::vector<std::string>{"begin", "rollback"}));
-    ASSERT_EQ(log.entries.size(), 1u);
-    EXPECT_EQ(log.entries[0].first, "Dispatch: SaveDispatch - Violation of PRIMARY KEY constraint");
-    EXPECT_EQ(log.entries[0].second, err::DatabaseError);
 
     // The same failure before the transaction was opened rolls nothing back.
     connection.reached.clear();
-    RunHandledInTransaction(log, "Dispatch: SaveDispatch - ", connection, bInTransaction,
-                            [&] { throw RuntimeError(err::TypeMismatch); });
+    RunHandledInTransaction(log, "Q - ", connection, bInTransaction, [&] { throw RuntimeError(err::TypeMismatch); });
     EXPECT_TRUE(connection.reached.empty());
-    EXPECT_EQ(log.entries.size(), 2u);
+    EXPECT_EQ(log.entries, (Entries{{"Dispatch: SaveDispatch - Violation of PRIMARY KEY constraint", err::DatabaseError},
+                                    {"Q - Type mismatch", err::TypeMismatch}}));
 }
 
 TEST(RunHandledInTransaction, ReportsTheOriginalErrorWhenTheRollbackFailsToo) {
@@ -73,9 +76,39 @@ TEST(RunHandledInTransaction, ReportsTheOriginalErrorWhenTheRollbackFailsToo) {
     bool bInTransaction = true;
     RunHandledInTransaction(log, "P - ", connection, bInTransaction, [] { throw RuntimeError(err::Overflow); });
     EXPECT_FALSE(bInTransaction);
-    ASSERT_EQ(log.entries.size(), 1u);
-    EXPECT_EQ(log.entries[0].first, "P - Overflow");
-    EXPECT_EQ(log.entries[0].second, err::Overflow);
+    EXPECT_EQ(log.entries, (Entries{{"P - Overflow", err::Overflow}}));
+}
+
+TEST(ProgramFault, IsLoggedAsAnInternalErrorWhenNotStrict) {
+    PolicyInForce lenient(FaultPolicy::Log);
+    MemoryLog log;
+    EXPECT_FALSE(RunHandled(log, "Invoice : ComputeAmount - ", [] { throw std::logic_error("row past the end"); }));
+    RunHandled(log, "P - ", [] { throw 42; });
+    const std::string internal = StandardDescription(err::InternalError);
+    EXPECT_EQ(log.entries, (Entries{{"Invoice : ComputeAmount - " + internal + ": row past the end", err::InternalError},
+                                    {"P - " + internal, err::InternalError}}));
+}
+
+TEST(ProgramFaultDeathTest, AbortsNamingTheExceptionWhenStrict) {
+    MemoryLog log;
+    EXPECT_DEATH(
+        {
+            SetFaultPolicy(FaultPolicy::Abort);
+            RunHandled(log, "Invoice : ComputeAmount - ", [] { throw std::logic_error("row past the end"); });
+        },
+        "program fault: std::logic_error reached the error handler of \"Invoice : ComputeAmount - \": "
+        "row past the end");
+    // A std::runtime_error that is not one of the runtime's errors is a fault too,
+    // and the transaction's handler stops as the plain one does.
+    testing::FakeConnection connection;
+    bool bInTransaction = false;
+    EXPECT_DEATH(
+        {
+            SetFaultPolicy(FaultPolicy::Abort);
+            RunHandledInTransaction(log, "Save - ", connection, bInTransaction,
+                                    [] { throw std::runtime_error("no such folder"); });
+        },
+        "program fault: std::runtime_error .*no such folder");
 }
 
 }  // namespace

@@ -2,10 +2,12 @@
 // active control, and the number of the run-time error a call raises.
 #pragma once
 
+#include "error_number.h"
 #include "platform/controls.h"
-#include "platform/runtime_error.h"
 
 namespace controls_test {
+
+using platform::testing::ErrorNumberOf;
 
 class SingleFocus : public platform::FocusScope {
 public:
@@ -13,16 +15,5 @@ public:
     void MoveFocus(platform::Control& to) override { active = &to; }
     platform::Control* active = nullptr;
 };
-
-// 0 when the call raises no run-time error.
-template <class Call>
-long ErrorNumberOf(Call&& call) {
-    try {
-        call();
-    } catch (const platform::RuntimeError& error) {
-        return error.Number();
-    }
-    return 0;
-}
 
 }  // namespace controls_test

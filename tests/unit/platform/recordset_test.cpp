@@ -2,7 +2,6 @@
 
 #include "error_number.h"
 #include "platform/database.h"
-#include "platform/runtime_error.h"
 
 namespace platform {
 namespace {
@@ -13,26 +12,19 @@ ResultSet Customers() {
     return {{"CustomerID", "Company_Name"}, {{Value("C1"), Value("Apex Traders")}, {Value("C2"), Value::Null()}}};
 }
 
-TEST(Recordset, AnEmptySetIsAtBothEnds) {
+TEST(Recordset, AnEmptyOrDefaultSetIsAtBothEnds) {
     Recordset empty(std::vector<ResultSet>{{{"CustomerID"}, {}}});
     EXPECT_TRUE(empty.Bof());
     EXPECT_TRUE(empty.Eof());
     EXPECT_EQ(ErrorNumberOf([&] { empty.Fields(0); }), err::NoCurrentRecord);
     EXPECT_EQ(ErrorNumberOf([&] { empty.MoveNext(); }), err::NoCurrentRecord);
 
-    Recordset noResult(std::vector<ResultSet>{});  // a call that answered with no result at all
-    EXPECT_TRUE(noResult.Bof());
-    EXPECT_TRUE(noResult.Eof());
-}
-
-TEST(Recordset, ADefaultRecordsetIsAnEmptyOne) {
-    Recordset nothing;
-    EXPECT_TRUE(nothing.Bof());
-    EXPECT_TRUE(nothing.Eof());
+    Recordset noResult(std::vector<ResultSet>{}), nothing;  // a call that answered with no result at all
+    for (Recordset* set : {&noResult, &nothing}) EXPECT_TRUE(set->Bof() && set->Eof());
     EXPECT_FALSE(nothing.NextRecordset());
 }
 
-TEST(Recordset, WalksItsRowsAndRefusesToGoPastTheEnd) {
+TEST(Recordset, WalksItsRowsRefusesToGoPastTheEndAndFindsFieldsByNameInAnyCase) {
     Recordset set(std::vector<ResultSet>{Customers()});
     EXPECT_FALSE(set.Bof());
     EXPECT_FALSE(set.Eof());
@@ -47,11 +39,6 @@ TEST(Recordset, WalksItsRowsAndRefusesToGoPastTheEnd) {
     set.MoveFirst();
     EXPECT_EQ(set.Fields("CustomerID"), Value("C1"));
     EXPECT_EQ(set.RecordCount(), 2);
-}
-
-TEST(Recordset, FindsFieldsByNameWithoutRegardToCase) {
-    Recordset set(std::vector<ResultSet>{Customers()});
-    EXPECT_EQ(set.Fields("company_name"), Value("Apex Traders"));
     EXPECT_EQ(set.Fields("COMPANY_NAME"), Value("Apex Traders"));
     EXPECT_EQ(set.FieldCount(), 2);
     EXPECT_EQ(set.FieldName(1), "Company_Name");
@@ -75,13 +62,11 @@ TEST(Recordset, NextRecordsetStepsThroughEverySetThenCloses) {
     EXPECT_FALSE(set.NextRecordset());
     EXPECT_FALSE(set.IsOpen());
     EXPECT_EQ(ErrorNumberOf([&] { set.Eof(); }), 3704);
-}
 
-TEST(Recordset, IsClosedAfterClose) {
-    Recordset set(std::vector<ResultSet>{Customers()});
-    set.Close();
-    EXPECT_FALSE(set.IsOpen());
-    EXPECT_EQ(ErrorNumberOf([&] { set.Fields(0); }), 3704);
+    Recordset closed(std::vector<ResultSet>{Customers()});
+    closed.Close();
+    EXPECT_FALSE(closed.IsOpen());
+    EXPECT_EQ(ErrorNumberOf([&] { closed.Fields(0); }), 3704);
 }
 
 }  // namespace

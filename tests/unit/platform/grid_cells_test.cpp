@@ -27,16 +27,15 @@ TEST_F(GridCells, CellsOutsideTheGridAreError381) {
     EXPECT_EQ(grid.GridRows(), 2);
 }
 
-TEST_F(GridCells, HeadingsAndRowNumbersAreNoEntries) {
+TEST_F(GridCells, HeadingsAndRowNumbersAreNoEntriesAndRowsComeAndGoFromTheEnd) {
     grid.SetColHeading(2, "Invoice ID");
     grid.SetCell(1, 0, "1");
     EXPECT_EQ(grid.GetCell(0, 2), "Invoice ID");
     EXPECT_TRUE(grid.IsBlankRow(1));
     grid.SetCell(1, 11, "x");
     EXPECT_FALSE(grid.IsBlankRow(1));
-}
 
-TEST_F(GridCells, RowsComeAndGoFromTheEndAndRemoveRowMovesTheRestUp) {
+    // Rows come and go from the end and RemoveRow moves the rest up.
     grid.SetGridRows(3);
     for (int row = 1; row <= 3; ++row) grid.SetCell(row, 1, std::to_string(row));
     grid.RemoveRow(2);

@@ -53,7 +53,7 @@ TEST_F(NewNoteGrid, EnterThroughTheLockedColumnsStopsAtLastEntryCol) {
     EXPECT_EQ(TakeEvents(), (Events{"RowColChange 1 4", "RowColChange 1 5", "RowColChange 2 1"}));
 }
 
-TEST_F(NewNoteGrid, WithoutAddedRowsTheLastRowEndsInAtLastRow) {
+TEST_F(NewNoteGrid, WithoutAddedRowsTheLastRowEndsInAtLastRowAndWithoutLastEntryColAtTheShownColumns) {
     grid.AllowAddRows = false;
     grid.SetColLocked(1, true);
     grid.SetColLocked(2, true);
@@ -64,11 +64,9 @@ TEST_F(NewNoteGrid, WithoutAddedRowsTheLastRowEndsInAtLastRow) {
     grid.UserKey(13);
     EXPECT_EQ(TakeEvents(), (Events{"AfterColUpdate 1 6", "AtLastRow"}));
     EXPECT_EQ(grid.GridRows(), 1);
-}
 
-TEST_F(NewNoteGrid, WithoutLastEntryColEnterWalksTheShownColumnsOnly) {
+    // Without LastEntryCol, Enter walks the shown columns only.
     grid.LastEntryCol = 0;
-    grid.AllowAddRows = false;
     grid.SetGridRows(2);
     grid.SetGridCol(6);
     TakeEvents();
@@ -104,15 +102,12 @@ TEST_F(NewNoteGrid, ARefusedEditStaysOpenWithTheTextTyped) {
     grid.UserKey(13);
     EXPECT_EQ(grid.GetCell(1, 1), "A100");
     EXPECT_EQ(grid.GridCol(), 6);
-}
 
-TEST_F(NewNoteGrid, EscapeGivesUpARefusedEditAndPutsTheCellBack) {
-    grid.SetCell(1, 1, "A100");
-    refusedText = "ZZZ";
+    // Escape gives up a refused edit and puts the cell back.
+    grid.UserGoto(1, 1);
     grid.UserType("ZZZ");
     grid.UserKey(13);
     ASSERT_TRUE(grid.Editing());
-
     grid.UserKey(27);
     EXPECT_FALSE(grid.Editing());
     EXPECT_EQ(grid.GetCell(1, 1), "A100");

@@ -1,6 +1,7 @@
 // Keys in the grid: the KeyCode event first and what a handler can do there, the
 // codes typing reports, locked columns, arrows and the first cell, and moves that
-// raise RowColChange only when the cell really moves.
+// raise RowColChange only when the cell really moves; and the unit list attached to
+// column 4: when it drops down, how a choice lands in the cell, when it closes.
 #include "grid_new_note.h"
 
 namespace {
@@ -28,7 +29,7 @@ TEST_F(NewNoteGridKeys, TypingReportsEachCharactersKeyCodeAndOneChange) {
     EXPECT_EQ(TakeEvents(), Events{"Change 6"});
 }
 
-TEST_F(NewNoteGridKeys, ASwallowedKeyNeverReachesTheEditor) {
+TEST_F(NewNoteGridKeys, ASwallowedKeyNeverReachesTheEditorAndAMoveInTheHandlerTakesTheKeysPlace) {
     // As the quantity cell does with the slash keys: they change the unit instead.
     grid.KeyCode.Connect([](int& code, int) {
         if (code == 111 || code == 191) code = 0;
@@ -37,6 +38,14 @@ TEST_F(NewNoteGridKeys, ASwallowedKeyNeverReachesTheEditor) {
     grid.UserType("2/3");
     grid.UserKey(191);
     EXPECT_EQ(grid.EditText(), "23");
+
+    // Right in an empty item code goes to the item name, not one further.
+    grid.KeyCode.Connect([this](int& code, int) {
+        if (code == 39 && grid.GridCol() == 1 && grid.GetCell(grid.GridRow(), 1).empty()) grid.SetGridCol(2);
+    });
+    grid.UserGoto(1, 1);
+    grid.UserKey(39);
+    EXPECT_EQ(grid.GridCol(), 2);
 }
 
 TEST_F(NewNoteGridKeys, ARowThatSwallowsAllButMovesKeepsItsArrowsAndEnter) {
@@ -58,15 +67,6 @@ TEST_F(NewNoteGridKeys, ARowThatSwallowsAllButMovesKeepsItsArrowsAndEnter) {
     grid.UserKey(39);
     grid.UserKey(13);
     EXPECT_EQ(TakeEvents(), (Events{"RowColChange 1 2", "RowColChange 1 6"}));
-}
-
-TEST_F(NewNoteGridKeys, AHandlerThatMovesTheCellTakesTheKeysPlace) {
-    // Right in an empty item code goes to the item name, not one further.
-    grid.KeyCode.Connect([this](int& code, int) {
-        if (code == 39 && grid.GridCol() == 1 && grid.GetCell(grid.GridRow(), 1).empty()) grid.SetGridCol(2);
-    });
-    grid.UserKey(39);
-    EXPECT_EQ(grid.GridCol(), 2);
 }
 
 TEST_F(NewNoteGridKeys, LockedColumnsTakeNoTypingAndTheUnitColumnDropsItsList) {
@@ -119,10 +119,9 @@ TEST_F(NewNoteGridKeys, ArrowsEndTheEditMoveAndStopAtTheEdges) {
     grid.UserGoto(2, 6);
     grid.UserKey(39);  // Right past the last column shown
     EXPECT_EQ(TakeEvents(), Events{"RowColChange 2 6"});
-}
 
-TEST_F(NewNoteGridKeys, BackPastTheFirstCellIsAtFirstRow) {
-    grid.SetGridCol(3);
+    // Back past the first cell is AtFirstRow.
+    grid.UserGoto(1, 3);
     TakeEvents();
     grid.UserKey(38);
     grid.UserGoto(1, 1);
@@ -154,6 +153,48 @@ TEST_F(NewNoteGridKeys, AGridOnADisabledPageTakesNoKeys) {
     grid.UserKey(13);
     EXPECT_TRUE(codes.empty());
     EXPECT_EQ(events, Events{});
+}
+
+TEST_F(NewNoteGridKeys, AChoiceFromTheUnitListLandsAsTypedAndClosesTheList) {
+    grid.SetGridRows(2);
+    grid.SetGridCol(4);
+    grid.UserKey(115);  // F4 drops the list
+    ASSERT_TRUE(lstUOM.Visible);
+    TakeEvents();
+    EXPECT_TRUE(grid.ChooseFromList("Box"));
+    EXPECT_EQ(grid.GetCell(1, 4), "Box");
+    EXPECT_FALSE(lstUOM.Visible);
+    EXPECT_FALSE(grid.Editing());
+    // No Change: the unit was chosen, not typed by hand.
+    EXPECT_EQ(TakeEvents(), Events{"AfterColUpdate 1 4"});
+    EXPECT_EQ(grid.GridCol(), 4);
+
+    // A refused choice keeps the list and the editor.
+    grid.UserKey('X');
+    refusedText = "Crate";
+    EXPECT_FALSE(grid.ChooseFromList("Crate"));
+    EXPECT_TRUE(lstUOM.Visible);
+    EXPECT_EQ(grid.EditText(), "Crate");
+    EXPECT_TRUE(grid.ChooseFromList("Box", true));
+    EXPECT_TRUE(lstUOM.Visible);  // asked to stay open
+}
+
+TEST_F(NewNoteGridKeys, AnAutomaticListOpensOnEnteringItsColumnAndAShownListIsTheProgramsToHide) {
+    grid.SetGridRows(2);
+    grid.SetColListAuto(4, true);
+    grid.SetGridCol(4);
+    EXPECT_TRUE(lstUOM.Visible);
+    grid.UserKey(27);
+    EXPECT_FALSE(lstUOM.Visible);
+    grid.SetGridCol(5);
+    grid.UserGoto(2, 4);
+    EXPECT_TRUE(lstUOM.Visible);
+    grid.UserGoto(2, 6);
+    EXPECT_FALSE(lstUOM.Visible);
+
+    lstUOM.Visible = true;
+    grid.SetGridCol(5);
+    EXPECT_TRUE(lstUOM.Visible);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "controls_test_support.h"
@@ -44,17 +45,16 @@ protected:
         grid.AllowDeleteRows = true;
         grid.SetGridRows(1);
 
-        grid.AfterColUpdate.Connect([this](int row, int col, bool& cancel) {
-            events.push_back("AfterColUpdate " + std::to_string(row) + " " + std::to_string(col));
+        const auto at = [](int row, int col) { return " " + std::to_string(row) + " " + std::to_string(col); };
+        grid.AfterColUpdate.Connect([this, at](int row, int col, bool& cancel) {
+            events.push_back("AfterColUpdate" + at(row, col));
             if (!refusedText.empty() && grid.GetCell(row, col) == refusedText) cancel = true;
         });
-        grid.RowColChange.Connect([this](int row, int col) {
-            events.push_back("RowColChange " + std::to_string(row) + " " + std::to_string(col));
-        });
+        grid.RowColChange.Connect([this, at](int row, int col) { events.push_back("RowColChange" + at(row, col)); });
         grid.Change.Connect([this](int col) { events.push_back("Change " + std::to_string(col)); });
-        grid.AtLastRow.Connect([this] { events.push_back("AtLastRow"); });
-        grid.AtFirstRow.Connect([this] { events.push_back("AtFirstRow"); });
-        grid.AfterDelete.Connect([this] { events.push_back("AfterDelete"); });
+        for (auto [event, name] : {std::pair{&grid.AtLastRow, "AtLastRow"}, std::pair{&grid.AtFirstRow, "AtFirstRow"},
+                                   std::pair{&grid.AfterDelete, "AfterDelete"}})
+            event->Connect([this, name] { events.push_back(name); });
     }
 
     // The user types into a cell and presses Enter, as a session's "cell" does.

@@ -38,7 +38,7 @@ TEST_F(NewNoteGridRows, DeleteAsksFirstThenRemovesThenTells) {
     EXPECT_EQ(rowsSeenAfter, 3);
 }
 
-TEST_F(NewNoteGridRows, TheHandlerMayCancelOrChooseAnotherRow) {
+TEST_F(NewNoteGridRows, TheHandlerMayCancelOrChooseAnotherRowAndTheGridMayAllowNone) {
     cancelDelete = true;
     grid.UserDeleteRow(2);
     EXPECT_EQ(TakeEvents(), Events{"BeforeDelete 2"});
@@ -48,19 +48,17 @@ TEST_F(NewNoteGridRows, TheHandlerMayCancelOrChooseAnotherRow) {
     deleteInstead = 3;
     grid.UserDeleteRow(1);
     EXPECT_EQ(ItemCodes(), (Codes{"ITEM1", "ITEM2", ""}));
-}
 
-TEST_F(NewNoteGridRows, NoDeleteWhereTheGridAllowsNone) {
+    deleteInstead = 0;
+    grid.UserDeleteRow(3);  // the entry row: a new one is offered
+    EXPECT_EQ(grid.GridRows(), 3);
+    EXPECT_TRUE(grid.IsBlankRow(3));
+
     grid.AllowDeleteRows = false;
+    TakeEvents();
     grid.UserDeleteRow(1);
     EXPECT_EQ(events, Events{});
-    EXPECT_EQ(grid.GridRows(), 4);
-}
-
-TEST_F(NewNoteGridRows, DeletingTheEntryRowOffersANewOne) {
-    grid.UserDeleteRow(4);
-    EXPECT_EQ(grid.GridRows(), 4);
-    EXPECT_TRUE(grid.IsBlankRow(4));
+    EXPECT_EQ(grid.GridRows(), 3);
 }
 
 TEST_F(NewNoteGridRows, TheEditFollowsItsRowWhenRowsAboveGoAndDiesWithItsOwn) {

@@ -1,0 +1,230 @@
+// The database layer: the recordset, and the connections that inject faults and record calls.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "error_number.h"
+#include "fake_connection.h"
+#include "platform/convert.h"
+#include "platform/database.h"
+#include "platform/fault_connection.h"
+#include "platform/recording_connection.h"
+#include "platform/runtime_error.h"
+
+namespace platform {
+namespace {
+
+using testing::ErrorNumberOf;
+
+ResultSet Customers() {
+    return {{"CustomerID", "Company_Name"}, {{Value("C1"), Value("Apex Traders")}, {Value("C2"), Value::Null()}}};
+}
+
+TEST(Recordset, AnEmptyOrDefaultSetIsAtBothEnds) {
+    Recordset empty(std::vector<ResultSet>{{{"CustomerID"}, {}}});
+    EXPECT_TRUE(empty.Bof());
+    EXPECT_TRUE(empty.Eof());
+    EXPECT_EQ(ErrorNumberOf([&] { empty.Fields(0); }), err::NoCurrentRecord);
+    EXPECT_EQ(ErrorNumberOf([&] { empty.MoveNext(); }), err::NoCurrentRecord);
+
+    Recordset noResult(std::vector<ResultSet>{}), nothing;  // a call that answered with no result at all
+    for (Recordset* set : {&noResult, &nothing}) EXPECT_TRUE(set->Bof() && set->Eof());
+    EXPECT_FALSE(nothing.NextRecordset());
+}
+
+TEST(Recordset, WalksItsRowsRefusesToGoPastTheEndAndFindsFieldsByNameInAnyCase) {
+    Recordset set(std::vector<ResultSet>{Customers()});
+    EXPECT_FALSE(set.Bof());
+    EXPECT_FALSE(set.Eof());
+    EXPECT_EQ(set.Fields(0), Value("C1"));
+    set.MoveNext();
+    EXPECT_EQ(set.Fields(0), Value("C2"));
+    EXPECT_TRUE(set.Fields(1).IsNull());
+    set.MoveNext();
+    EXPECT_TRUE(set.Eof());
+    EXPECT_EQ(ErrorNumberOf([&] { set.Fields(0); }), err::NoCurrentRecord);
+    EXPECT_EQ(ErrorNumberOf([&] { set.MoveNext(); }), err::NoCurrentRecord);
+    set.MoveFirst();
+    EXPECT_EQ(set.Fields("CustomerID"), Value("C1"));
+    EXPECT_EQ(set.RecordCount(), 2);
+    EXPECT_EQ(set.Fields("COMPANY_NAME"), Value("Apex Traders"));
+    EXPECT_EQ(set.FieldCount(), 2);
+    EXPECT_EQ(set.FieldName(1), "Company_Name");
+    EXPECT_EQ(ErrorNumberOf([&] { set.Fields("Company"); }), err::ItemNotFound);
+    EXPECT_EQ(ErrorNumberOf([&] { set.Fields(2); }), err::ItemNotFound);
+    EXPECT_EQ(ErrorNumberOf([&] { set.Fields(-1); }), err::ItemNotFound);
+}
+
+TEST(Recordset, NextRecordsetStepsThroughEverySetThenCloses) {
+    ResultSet rowCount;
+    rowCount.rowsAffected = 3;
+    ResultSet answer{{"Serial"}, {{Value(42)}}};
+    Recordset set(std::vector<ResultSet>{rowCount, answer, Customers()});
+
+    EXPECT_EQ(set.RowsAffected(), 3);
+    EXPECT_TRUE(set.Eof());
+    ASSERT_TRUE(set.NextRecordset());
+    EXPECT_EQ(set.Fields(0), Value(42));
+    ASSERT_TRUE(set.NextRecordset());
+    EXPECT_EQ(set.Fields("customerid"), Value("C1"));  // each set starts at its first row
+    EXPECT_FALSE(set.NextRecordset());
+    EXPECT_FALSE(set.IsOpen());
+    EXPECT_EQ(ErrorNumberOf([&] { set.Eof(); }), 3704);
+
+    Recordset closed(std::vector<ResultSet>{Customers()});
+    closed.Close();
+    EXPECT_FALSE(closed.IsOpen());
+    EXPECT_EQ(ErrorNumberOf([&] { closed.Fields(0); }), 3704);
+}
+
+struct Faults : ::testing::Test {
+    std::shared_ptr<testing::FakeConnection> inner = std::make_shared<testing::FakeConnection>();
+    FaultInjectingConnection connection{inner};
+
+    // The error a call raised, or none.
+    template <class Call>
+    std::string FailureOf(Call&& call) {
+        try {
+            call();
+        } catch (const RuntimeError& e) {
+            EXPECT_EQ(e.Number(), err::DatabaseError);
+            return e.Description();
+        }
+        return {};
+    }
+};
+
+TEST_F(Faults, FailsTheNthCallCountedFromNowWithoutReachingTheInnerConnection) {
+    connection.Execute("Select 1");
+    connection.FailNthCall(3);
+    connection.BeginTrans();
+    connection.RunProcedure("sp_a", {});
+    EXPECT_EQ(FailureOf([&] { connection.RunProcedure("sp_b", {{Value("x'y"), adtype::VarChar}}); }),
+              "Injected failure of call 4: sp_b 'x''y'");
+    EXPECT_EQ(inner->reached, (std::vector<std::string>{"Select 1", "begin", "sp_a"}));
+    // Only that call: the next goes through.
+    EXPECT_EQ(FailureOf([&] { connection.CommitTrans(); }), "");
+    EXPECT_EQ(connection.CallCount(), 5);
+}
+
+TEST_F(Faults, CountsTransactionCallsButNeverFailsARollback) {
+    connection.FailNthCall(1);
+    connection.FailNthCall(2);
+    EXPECT_EQ(FailureOf([&] { connection.BeginTrans(); }), "Injected failure of call 1: BEGIN TRANSACTION");
+    connection.RollbackTrans();  // not counted, not failed
+    EXPECT_EQ(FailureOf([&] { connection.CommitTrans(); }), "Injected failure of call 2: COMMIT TRANSACTION");
+    EXPECT_EQ(inner->reached, (std::vector<std::string>{"rollback"}));
+    EXPECT_EQ(connection.CallCount(), 2);
+    connection.BeginTrans();
+    EXPECT_TRUE(connection.InTransaction());  // the state comes from the inner connection
+}
+
+TEST_F(Faults, FailsMatchingStatementsAndProceduresWithoutRegardToCase) {
+    connection.FailMatching("update soabstract");
+    connection.FailMatching("SP_CLOSE_SO");
+    EXPECT_NE(FailureOf([&] { connection.Execute("Update SOAbstract Set Status = 128"); }), "");
+    EXPECT_NE(FailureOf([&] { connection.Execute("UPDATE SOABSTRACT SET Status = 0"); }), "");
+    EXPECT_NE(FailureOf([&] { connection.RunProcedure("sp_close_so", {}); }), "");
+    // a procedure must be named whole; a statement need only contain the fragment
+    EXPECT_EQ(FailureOf([&] { connection.RunProcedure("sp_close_so_all", {}); }), "");
+    EXPECT_EQ(FailureOf([&] { connection.Execute("Select * From SOAbstract"); }), "");
+    EXPECT_EQ(inner->reached, (std::vector<std::string>{"sp_close_so_all", "Select * From SOAbstract"}));
+}
+
+TEST_F(Faults, ClearFaultsForgetsEveryFaultRestartsTheCountAndMeaninglessFaultsAreRefused) {
+    connection.FailMatching("Select");
+    connection.FailNthCall(2);
+    connection.BeginTrans();
+    connection.ClearFaults();
+    EXPECT_EQ(connection.CallCount(), 0);
+    EXPECT_EQ(FailureOf([&] { connection.Execute("Select 1"); }), "");
+    EXPECT_EQ(FailureOf([&] { connection.Execute("Select 2"); }), "");
+    EXPECT_EQ(connection.CallCount(), 2);
+    EXPECT_THROW(connection.FailNthCall(0), RuntimeError);
+    EXPECT_THROW(connection.FailMatching(""), RuntimeError);
+    EXPECT_EQ(FailureOf([&] { connection.Execute("Select 3"); }), "");
+}
+
+using Kind = RecordedCall::Kind;
+
+struct Recording : ::testing::Test {
+    std::shared_ptr<testing::FakeConnection> inner = std::make_shared<testing::FakeConnection>();
+    RecordingConnection connection{inner};
+};
+
+TEST_F(Recording, RecordsEveryCallInOrderAndPassesItOn) {
+    connection.BeginTrans();
+    auto result = connection.Execute("Select 1");
+    connection.RunProcedure("sp_close_so", {{Value(7), adtype::Integer}});
+    connection.CommitTrans();
+    connection.RollbackTrans();
+
+    ASSERT_EQ(connection.Calls().size(), 5u);
+    std::vector<Kind> kinds;
+    for (const auto& call : connection.Calls()) kinds.push_back(call.kind);
+    EXPECT_EQ(kinds, (std::vector<Kind>{Kind::Begin, Kind::Statement, Kind::Procedure, Kind::Commit, Kind::Rollback}));
+    EXPECT_EQ(connection.Calls()[1].text, "Select 1");
+    EXPECT_EQ(connection.Calls()[2].text, "sp_close_so");
+    ASSERT_EQ(connection.Calls()[2].parameters.size(), 1u);
+    EXPECT_EQ(connection.Calls()[2].parameters[0].type, adtype::Integer);
+
+    EXPECT_EQ(inner->reached, (std::vector<std::string>{"begin", "Select 1", "sp_close_so", "commit", "rollback"}));
+    EXPECT_EQ(result->Fields(0), Value(1));  // the inner answer comes back
+    connection.BeginTrans();
+    EXPECT_TRUE(connection.InTransaction());
+}
+
+TEST_F(Recording, RecordsCallsThatFail) {
+    class Failing : public testing::FakeConnection {
+        RecordsetPtr Execute(const std::string&) override { throw RuntimeError(err::DatabaseError, "bad"); }
+    };
+    RecordingConnection failing(std::make_shared<Failing>());
+    EXPECT_THROW(failing.Execute("Update X"), RuntimeError);
+    ASSERT_EQ(failing.Calls().size(), 1u);
+    EXPECT_EQ(failing.Calls()[0].text, "Update X");
+}
+
+TEST_F(Recording, TellsTheListenerAsEachCallIsMadeAndForgetsOnClear) {
+    std::vector<std::string> heard;
+    connection.onCall = [&](const RecordedCall& call) {
+        heard.push_back(RecordingConnection::Describe(call));
+        // The inner connection has not seen the call yet.
+        heard.push_back(std::to_string(inner->reached.size()));
+    };
+    connection.Execute("Select 2");
+    connection.BeginTrans();
+    EXPECT_EQ(heard, (std::vector<std::string>{"Select 2", "0", "BEGIN TRANSACTION", "1"}));
+
+    connection.Clear();
+    EXPECT_TRUE(connection.Calls().empty());
+    connection.CommitTrans();
+    EXPECT_EQ(connection.Calls().size(), 1u);
+}
+
+TEST(RecordingDescribe, WritesEachCallAsTheServerWouldReadIt) {
+    const auto describe = [](RecordedCall call) { return RecordingConnection::Describe(call); };
+    EXPECT_EQ(describe({Kind::Procedure,
+                        "sp_get_allSOabstract",
+                        {{Value(DateSerial(2026, 11, 1)), adtype::Date},
+                         {Value(DateTime(2026, 11, 22, 23, 59, 59)), adtype::Date}}}),
+              "sp_get_allSOabstract '2026-11-01 00:00:00', '2026-11-22 23:59:59'");
+    EXPECT_EQ(describe({Kind::Procedure,
+                        "sp_save",
+                        {{Value("O'Brien"), adtype::VarChar},
+                         {Value(12), adtype::Integer},
+                         {Value(2.5), adtype::Double},
+                         {Value(1e15), adtype::Double},
+                         {Value(true), adtype::Boolean},
+                         {Value(false), adtype::Boolean},
+                         {Value::Null(), adtype::VarChar},
+                         {Value(""), adtype::VarChar}}}),
+              "sp_save 'O''Brien', 12, 2.5, 1E+15, 1, 0, NULL, ''");
+    EXPECT_EQ(describe({Kind::Procedure, "sp_list_Dispatch", {}}), "sp_list_Dispatch");
+    EXPECT_EQ(describe({Kind::Commit, {}, {}}), "COMMIT TRANSACTION");
+    EXPECT_EQ(describe({Kind::Rollback, {}, {}}), "ROLLBACK TRANSACTION");
+}
+
+}  // namespace
+}  // namespace platform

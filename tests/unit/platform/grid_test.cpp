@@ -1,0 +1,539 @@
+// A grid set up as the entry page sets it up for a new note: item code and name
+// open for typing, batch, unit and price locked, the unit list on column 4, Enter
+// from the item cells straight to the quantity, rows added by the user. Every
+// event the grid raises is written down in order.
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "controls_test_support.h"
+#include "platform/grid.h"
+
+namespace grid_test {
+
+using controls_test::ErrorNumberOf;
+using controls_test::SingleFocus;
+
+class NewNoteGrid : public ::testing::Test {
+protected:
+    static constexpr int kCols = 43;
+    SingleFocus scope;
+    platform::Frame page{scope, "Frame3"};
+    platform::ListBox lstUOM{scope, "lstUOM"};
+    platform::DTFlex grid{scope, "DTFlexDispatch"};
+    std::vector<std::string> events;
+    // What the AfterColUpdate handler refuses; empty refuses nothing.
+    std::string refusedText;
+
+    void SetUp() override {
+        grid.Container = &page;
+        lstUOM.Container = &page;
+        lstUOM.Visible = false;
+        grid.SetGridCols(kCols);
+        for (int col : {3, 4, 5}) grid.SetColLocked(col, true);
+        grid.AttachColumnList(4, lstUOM);
+        grid.SetColListAuto(4, false);
+        grid.VisibleCols = 6;
+        grid.SetColNext(1, 6);
+        grid.SetColNext(2, 6);
+        grid.LastEntryCol = 5;
+        grid.AllowAddRows = true;
+        grid.AllowDeleteRows = true;
+        grid.SetGridRows(1);
+
+        const auto at = [](int row, int col) { return " " + std::to_string(row) + " " + std::to_string(col); };
+        grid.AfterColUpdate.Connect([this, at](int row, int col, bool& cancel) {
+            events.push_back("AfterColUpdate" + at(row, col));
+            if (!refusedText.empty() && grid.GetCell(row, col) == refusedText) cancel = true;
+        });
+        grid.RowColChange.Connect([this, at](int row, int col) { events.push_back("RowColChange" + at(row, col)); });
+        grid.Change.Connect([this](int col) { events.push_back("Change " + std::to_string(col)); });
+        for (auto [event, name] : {std::pair{&grid.AtLastRow, "AtLastRow"}, std::pair{&grid.AtFirstRow, "AtFirstRow"},
+                                   std::pair{&grid.AfterDelete, "AfterDelete"}})
+            event->Connect([this, name] { events.push_back(name); });
+    }
+
+    // The user types into a cell and presses Enter, as a session's "cell" does.
+    void EnterCell(int row, int col, const std::string& text) {
+        grid.UserGoto(row, col);
+        grid.UserType(text);
+        grid.UserKey(13);
+    }
+
+    std::vector<std::string> TakeEvents() { return std::exchange(events, {}); }
+};
+
+using Events = std::vector<std::string>;
+
+}  // namespace grid_test
+
+using grid_test::ErrorNumberOf;
+using grid_test::Events;
+using grid_test::NewNoteGrid;
+using grid_test::SingleFocus;
+
+// The grid as a table of text: its shape, cells and headings, the blank row, and
+// the refusal of an address outside it.
+
+namespace {
+
+using platform::DTFlex;
+
+class GridCells : public ::testing::Test {
+protected:
+    SingleFocus scope;
+    DTFlex grid{scope, "dtInvoice", 11};
+};
+
+TEST_F(GridCells, CellsOutsideTheGridAreError381) {
+    EXPECT_EQ(grid.GridRows(), 1);  // a new grid offers one blank row
+    grid.SetGridRows(2);
+    for (auto [row, col] : {std::pair{-1, 1}, {3, 1}, {1, -1}, {1, 12}}) {
+        EXPECT_EQ(ErrorNumberOf([&] { (void)grid.GetCell(row, col); }), 381) << row << "," << col;
+        EXPECT_EQ(ErrorNumberOf([&] { grid.SetCell(row, col, "x"); }), 381) << row << "," << col;
+    }
+    EXPECT_EQ(ErrorNumberOf([&] { grid.RemoveRow(0); }), 381);
+    EXPECT_EQ(ErrorNumberOf([&] { grid.SetColHeading(35, "x"); }), 381);
+    EXPECT_EQ(ErrorNumberOf([&] { grid.SetGridRows(-1); }), platform::err::InvalidPropertyValue);
+    EXPECT_EQ(grid.GridRows(), 2);
+}
+
+TEST_F(GridCells, HeadingsAndRowNumbersAreNoEntriesAndRowsComeAndGoFromTheEnd) {
+    grid.SetColHeading(2, "Invoice ID");
+    grid.SetCell(1, 0, "1");
+    EXPECT_EQ(grid.GetCell(0, 2), "Invoice ID");
+    EXPECT_TRUE(grid.IsBlankRow(1));
+    grid.SetCell(1, 11, "x");
+    EXPECT_FALSE(grid.IsBlankRow(1));
+
+    // Rows come and go from the end and RemoveRow moves the rest up.
+    grid.SetGridRows(3);
+    for (int row = 1; row <= 3; ++row) grid.SetCell(row, 1, std::to_string(row));
+    grid.RemoveRow(2);
+    EXPECT_EQ(grid.GetCell(2, 1), "3");
+    // Asked about the row that was last before the removal, the grid answers false.
+    EXPECT_FALSE(grid.IsBlankRow(3));
+    grid.SetGridRows(1);
+    grid.SetGridRows(2);
+    EXPECT_EQ(grid.GetCell(2, 1), "");  // a dropped row does not come back
+}
+
+TEST_F(GridCells, ClearGridEmptiesTheRowsAndKeepsHeadingsAndCount) {
+    grid.SetColHeading(1, "Doc");
+    grid.SetGridRows(2);
+    grid.SetCell(2, 0, "2");
+    grid.SetCell(2, 5, "Yes");
+    grid.SetGridRow(2);
+    grid.ClearGrid();
+    EXPECT_EQ(grid.GridRows(), 2);
+    EXPECT_EQ(grid.GetCell(2, 0), "");
+    EXPECT_TRUE(grid.IsBlankRow(2));
+    EXPECT_EQ(grid.GetCell(0, 1), "Doc");
+    EXPECT_EQ(grid.GridRow(), 1);
+}
+
+// Enter through a new note: ColNext, LastEntryCol, the blank entry row the grid
+// keeps at its end, AtLastRow, and a refused edit that keeps its editor.
+
+TEST_F(NewNoteGrid, EnterFromTheItemCodeGoesToTheQuantityAndOffersANewRow) {
+    grid.UserType("A100");
+    EXPECT_TRUE(grid.Editing());
+    EXPECT_EQ(grid.EditText(), "A100");
+    EXPECT_EQ(grid.GetCell(1, 1), "");  // not in the cell before the edit ends
+    TakeEvents();
+
+    grid.UserKey(13);
+    EXPECT_EQ(TakeEvents(), (Events{"AfterColUpdate 1 1", "RowColChange 1 6"}));
+    EXPECT_EQ(grid.GetCell(1, 1), "A100");
+    EXPECT_FALSE(grid.Editing());
+    EXPECT_EQ(grid.GridRows(), 2);
+    EXPECT_TRUE(grid.IsBlankRow(2));
+
+    grid.UserType("12");
+    grid.UserKey(13);
+    EXPECT_EQ(TakeEvents(), (Events{"Change 6", "AfterColUpdate 1 6", "RowColChange 2 1"}));
+    EXPECT_EQ(grid.GetCell(1, 6), "12");
+    EXPECT_EQ(grid.GridRows(), 2);  // the entry row is there once, not twice
+}
+
+TEST_F(NewNoteGrid, EnterInTheBlankEntryRowEndsAtTheLastRow) {
+    EnterCell(1, 1, "A100");
+    grid.UserKey(13);  // quantity left empty: on to the entry row
+    ASSERT_EQ(grid.GridRow(), 2);
+    TakeEvents();
+
+    grid.UserKey(13);
+    EXPECT_EQ(TakeEvents(), (Events{"RowColChange 2 6"}));
+    grid.UserKey(13);
+    EXPECT_EQ(TakeEvents(), (Events{"AtLastRow"}));
+    EXPECT_EQ(grid.GridRows(), 2);
+    EXPECT_EQ(grid.GridRow(), 2);
+}
+
+TEST_F(NewNoteGrid, EnterThroughTheLockedColumnsStopsAtLastEntryCol) {
+    grid.SetGridRows(2);
+    grid.SetCell(1, 1, "A100");
+    grid.SetGridCol(3);
+    TakeEvents();
+    grid.UserKey(13);
+    grid.UserKey(13);
+    grid.UserKey(13);
+    EXPECT_EQ(TakeEvents(), (Events{"RowColChange 1 4", "RowColChange 1 5", "RowColChange 2 1"}));
+}
+
+TEST_F(NewNoteGrid, WithoutAddedRowsTheLastRowEndsInAtLastRowAndWithoutLastEntryColAtTheShownColumns) {
+    grid.AllowAddRows = false;
+    grid.SetColLocked(1, true);
+    grid.SetColLocked(2, true);
+    grid.SetCell(1, 1, "A100");
+    grid.SetGridCol(6);
+    grid.UserType("3");
+    TakeEvents();
+    grid.UserKey(13);
+    EXPECT_EQ(TakeEvents(), (Events{"AfterColUpdate 1 6", "AtLastRow"}));
+    EXPECT_EQ(grid.GridRows(), 1);
+
+    // Without LastEntryCol, Enter walks the shown columns only.
+    grid.LastEntryCol = 0;
+    grid.SetGridRows(2);
+    grid.SetGridCol(6);
+    TakeEvents();
+    grid.UserKey(13);
+    EXPECT_EQ(TakeEvents(), (Events{"RowColChange 2 1"}));
+}
+
+TEST_F(NewNoteGrid, ARefusedEditStaysOpenWithTheTextTyped) {
+    refusedText = "ZZZ";
+    grid.UserType("ZZZ");
+    TakeEvents();
+
+    grid.UserKey(13);
+    EXPECT_EQ(TakeEvents(), (Events{"AfterColUpdate 1 1"}));
+    EXPECT_TRUE(grid.Editing());
+    EXPECT_EQ(grid.EditText(), "ZZZ");
+    EXPECT_EQ(grid.GridCol(), 1);
+    EXPECT_EQ(grid.GridRows(), 1);  // no entry row for a refused entry
+
+    // The program asks again (as a save does) and is refused again.
+    EXPECT_FALSE(grid.CommitEdit());
+    EXPECT_TRUE(grid.Editing());
+
+    // An arrow is refused the same way and does not move.
+    TakeEvents();
+    grid.UserKey(39);
+    EXPECT_EQ(TakeEvents(), (Events{"AfterColUpdate 1 1"}));
+    EXPECT_EQ(grid.GridCol(), 1);
+
+    // Typing anew replaces the refused text, and the edit then goes through.
+    grid.UserType("A100");
+    EXPECT_EQ(grid.EditText(), "A100");
+    grid.UserKey(13);
+    EXPECT_EQ(grid.GetCell(1, 1), "A100");
+    EXPECT_EQ(grid.GridCol(), 6);
+
+    // Escape gives up a refused edit and puts the cell back.
+    grid.UserGoto(1, 1);
+    grid.UserType("ZZZ");
+    grid.UserKey(13);
+    ASSERT_TRUE(grid.Editing());
+    grid.UserKey(27);
+    EXPECT_FALSE(grid.Editing());
+    EXPECT_EQ(grid.GetCell(1, 1), "A100");
+}
+
+TEST_F(NewNoteGrid, AfterColUpdateIsOnlyForTheFirstSixColumns) {
+    grid.SetGridCol(7);
+    grid.SetCellEdit(1);
+    ASSERT_TRUE(grid.Editing());
+    grid.UserType("1");
+    TakeEvents();
+    EXPECT_TRUE(grid.CommitEdit());
+    EXPECT_EQ(TakeEvents(), Events{});
+    EXPECT_EQ(grid.GetCell(1, 7), "1");
+}
+
+TEST_F(NewNoteGrid, AHandlerThatRemovesTheEditedRowLeavesTheEntryRowInPlace) {
+    // An emptied item cell makes the handler take the row away, without refusing.
+    grid.AfterColUpdate.Connect([this](int row, int col, bool&) {
+        if (col == 1 && grid.GetCell(row, 1).empty()) grid.RemoveRow(row);
+    });
+    EnterCell(1, 1, "A100");
+    grid.UserKey(13);  // to the entry row
+    grid.UserGoto(1, 1);
+    grid.UserType("");
+    grid.UserKey(13);
+    EXPECT_EQ(grid.GridRows(), 1);
+    EXPECT_TRUE(grid.IsBlankRow(1));
+}
+
+// Keys in the grid: the KeyCode event first and what a handler can do there, the
+// codes typing reports, locked columns, arrows and the first cell, and moves that
+// raise RowColChange only when the cell really moves; and the unit list attached to
+// column 4: when it drops down, how a choice lands in the cell, when it closes.
+
+class NewNoteGridKeys : public NewNoteGrid {
+protected:
+    std::vector<int> codes;
+
+    void SetUp() override {
+        NewNoteGrid::SetUp();
+        grid.KeyCode.Connect([this](int& code, int) { codes.push_back(code); });
+    }
+};
+
+TEST_F(NewNoteGridKeys, TypingReportsEachCharactersKeyCodeAndOneChange) {
+    grid.SetGridCol(6);
+    TakeEvents();
+    grid.UserType("aZ9*/.- ");
+    EXPECT_EQ(codes, (std::vector<int>{65, 90, 57, 106, 111, 190, 189, 32}));
+    EXPECT_EQ(grid.EditText(), "aZ9*/.- ");
+    EXPECT_EQ(TakeEvents(), Events{"Change 6"});
+}
+
+TEST_F(NewNoteGridKeys, ASwallowedKeyNeverReachesTheEditorAndAMoveInTheHandlerTakesTheKeysPlace) {
+    // As the quantity cell does with the slash keys: they change the unit instead.
+    grid.KeyCode.Connect([](int& code, int) {
+        if (code == 111 || code == 191) code = 0;
+    });
+    grid.SetGridCol(6);
+    grid.UserType("2/3");
+    grid.UserKey(191);
+    EXPECT_EQ(grid.EditText(), "23");
+
+    // Right in an empty item code goes to the item name, not one further.
+    grid.KeyCode.Connect([this](int& code, int) {
+        if (code == 39 && grid.GridCol() == 1 && grid.GetCell(grid.GridRow(), 1).empty()) grid.SetGridCol(2);
+    });
+    grid.UserGoto(1, 1);
+    grid.UserKey(39);
+    EXPECT_EQ(grid.GridCol(), 2);
+}
+
+TEST_F(NewNoteGridKeys, ARowThatSwallowsAllButMovesKeepsItsArrowsAndEnter) {
+    // A free row: only Enter and the arrows get through.
+    grid.SetCell(1, 1, "FREE1");
+    grid.SetCell(1, 15, "1");
+    grid.KeyCode.Connect([this](int& code, int) {
+        const bool move = code == 13 || (code >= 37 && code <= 40);
+        if (grid.GetCell(grid.GridRow(), 15) == "1" && !move) code = 0;
+    });
+    TakeEvents();
+    grid.UserType("X");
+    grid.UserKey(8);
+    grid.UserType("");
+    EXPECT_FALSE(grid.Editing());
+    EXPECT_EQ(grid.GetCell(1, 1), "FREE1");
+    EXPECT_EQ(TakeEvents(), Events{});
+
+    grid.UserKey(39);
+    grid.UserKey(13);
+    EXPECT_EQ(TakeEvents(), (Events{"RowColChange 1 2", "RowColChange 1 6"}));
+}
+
+TEST_F(NewNoteGridKeys, LockedColumnsTakeNoTypingAndTheUnitColumnDropsItsList) {
+    grid.SetCell(1, 3, "BATCH-1");
+    grid.SetGridCol(3);
+    TakeEvents();
+    grid.UserType("99");
+    grid.UserKey(8);
+    grid.SetCellEdit(1);
+    EXPECT_FALSE(grid.Editing());
+    EXPECT_EQ(grid.GetCell(1, 3), "BATCH-1");
+    EXPECT_EQ(TakeEvents(), Events{});
+    EXPECT_EQ(codes.size(), 3u);  // the keys were still reported
+
+    grid.SetGridCol(4);
+    EXPECT_FALSE(lstUOM.Visible);  // its list does not open on entering
+    grid.UserKey('B');
+    EXPECT_TRUE(lstUOM.Visible);
+    EXPECT_FALSE(grid.Editing());
+    grid.SetGridCol(6);
+    EXPECT_FALSE(lstUOM.Visible);
+}
+
+TEST_F(NewNoteGridKeys, KeysTypeAndBackspaceTakesTheLastCharacterBack) {
+    grid.UserKey('A');
+    grid.UserKey(56, 1);   // Shift+8
+    grid.UserKey('C', 2);  // Ctrl+C types nothing
+    EXPECT_EQ(grid.EditText(), "a*");
+    grid.UserKey(8);
+    EXPECT_EQ(grid.EditText(), "a");
+
+    // On a cell with no editor open, Backspace edits the cell's own text.
+    grid.SetCell(1, 2, "Café");
+    grid.SetGridCol(2);
+    grid.UserKey(8);
+    EXPECT_EQ(grid.EditText(), "Caf");
+    EXPECT_EQ(grid.GetCell(1, 2), "Café");
+}
+
+TEST_F(NewNoteGridKeys, ArrowsEndTheEditMoveAndStopAtTheEdges) {
+    grid.SetGridRows(2);
+    grid.UserType("A100");
+    TakeEvents();
+    grid.UserKey(40);
+    EXPECT_EQ(TakeEvents(), (Events{"AfterColUpdate 1 1", "RowColChange 2 1"}));
+    EXPECT_EQ(grid.GetCell(1, 1), "A100");
+
+    grid.UserKey(37);  // Left at column 1 of row 2: nowhere to go
+    grid.UserKey(40);  // Down at the last row
+    grid.UserGoto(2, 6);
+    grid.UserKey(39);  // Right past the last column shown
+    EXPECT_EQ(TakeEvents(), Events{"RowColChange 2 6"});
+
+    // Back past the first cell is AtFirstRow.
+    grid.UserGoto(1, 3);
+    TakeEvents();
+    grid.UserKey(38);
+    grid.UserGoto(1, 1);
+    grid.UserKey(37);
+    EXPECT_EQ(TakeEvents(), (Events{"AtFirstRow", "RowColChange 1 1", "AtFirstRow"}));
+}
+
+TEST_F(NewNoteGridKeys, RowColChangeOnlyWhenTheCellMovesAndAProgramMoveDropsTheEdit) {
+    grid.SetGridRows(3);
+    grid.UserType("A100");
+    TakeEvents();
+    grid.SetGridCol(1);
+    grid.SetGridRow(1);
+    grid.UserGoto(1, 1);
+    EXPECT_EQ(TakeEvents(), Events{});
+    EXPECT_TRUE(grid.Editing());
+
+    grid.SetGridRow(3);
+    EXPECT_EQ(TakeEvents(), Events{"RowColChange 3 1"});  // no AfterColUpdate
+    EXPECT_FALSE(grid.Editing());
+    EXPECT_EQ(grid.GetCell(1, 1), "");
+    EXPECT_EQ(ErrorNumberOf([&] { grid.SetGridRow(4); }), 381);
+    EXPECT_EQ(ErrorNumberOf([&] { grid.SetGridCol(0); }), 381);
+}
+
+TEST_F(NewNoteGridKeys, AGridOnADisabledPageTakesNoKeys) {
+    page.Enabled = false;
+    grid.UserType("A");
+    grid.UserKey(13);
+    EXPECT_TRUE(codes.empty());
+    EXPECT_EQ(events, Events{});
+}
+
+TEST_F(NewNoteGridKeys, AChoiceFromTheUnitListLandsAsTypedAndClosesTheList) {
+    grid.SetGridRows(2);
+    grid.SetGridCol(4);
+    grid.UserKey(115);  // F4 drops the list
+    ASSERT_TRUE(lstUOM.Visible);
+    TakeEvents();
+    EXPECT_TRUE(grid.ChooseFromList("Box"));
+    EXPECT_EQ(grid.GetCell(1, 4), "Box");
+    EXPECT_FALSE(lstUOM.Visible);
+    EXPECT_FALSE(grid.Editing());
+    // No Change: the unit was chosen, not typed by hand.
+    EXPECT_EQ(TakeEvents(), Events{"AfterColUpdate 1 4"});
+    EXPECT_EQ(grid.GridCol(), 4);
+
+    // A refused choice keeps the list and the editor.
+    grid.UserKey('X');
+    refusedText = "Crate";
+    EXPECT_FALSE(grid.ChooseFromList("Crate"));
+    EXPECT_TRUE(lstUOM.Visible);
+    EXPECT_EQ(grid.EditText(), "Crate");
+    EXPECT_TRUE(grid.ChooseFromList("Box", true));
+    EXPECT_TRUE(lstUOM.Visible);  // asked to stay open
+}
+
+TEST_F(NewNoteGridKeys, AnAutomaticListOpensOnEnteringItsColumnAndAShownListIsTheProgramsToHide) {
+    grid.SetGridRows(2);
+    grid.SetColListAuto(4, true);
+    grid.SetGridCol(4);
+    EXPECT_TRUE(lstUOM.Visible);
+    grid.UserKey(27);
+    EXPECT_FALSE(lstUOM.Visible);
+    grid.SetGridCol(5);
+    grid.UserGoto(2, 4);
+    EXPECT_TRUE(lstUOM.Visible);
+    grid.UserGoto(2, 6);
+    EXPECT_FALSE(lstUOM.Visible);
+
+    lstUOM.Visible = true;
+    grid.SetGridCol(5);
+    EXPECT_TRUE(lstUOM.Visible);
+}
+
+// Deleting rows as the user does it, and the current cell when rows go.
+
+using Codes = std::vector<std::string>;
+
+class NewNoteGridRows : public NewNoteGrid {
+protected:
+    void SetUp() override {
+        NewNoteGrid::SetUp();
+        grid.SetGridRows(4);
+        for (int row = 1; row <= 3; ++row) grid.SetCell(row, 1, "ITEM" + std::to_string(row));
+        grid.BeforeDelete.Connect([this](int& row, bool& cancel) {
+            events.push_back("BeforeDelete " + std::to_string(row));
+            row = deleteInstead > 0 ? deleteInstead : row;
+            cancel = cancelDelete;
+        });
+        TakeEvents();
+    }
+    Codes ItemCodes() {
+        Codes codes;
+        for (int row = 1; row <= grid.GridRows(); ++row) codes.push_back(grid.GetCell(row, 1));
+        return codes;
+    }
+    int deleteInstead = 0;
+    bool cancelDelete = false;
+};
+
+TEST_F(NewNoteGridRows, DeleteAsksFirstThenRemovesThenTells) {
+    int rowsSeenAfter = -1;
+    grid.AfterDelete.Connect([&] { rowsSeenAfter = grid.GridRows(); });
+    grid.UserDeleteRow(2);
+    EXPECT_EQ(TakeEvents(), (Events{"BeforeDelete 2", "AfterDelete"}));
+    EXPECT_EQ(ItemCodes(), (Codes{"ITEM1", "ITEM3", ""}));
+    EXPECT_EQ(rowsSeenAfter, 3);
+}
+
+TEST_F(NewNoteGridRows, TheHandlerMayCancelOrChooseAnotherRowAndTheGridMayAllowNone) {
+    cancelDelete = true;
+    grid.UserDeleteRow(2);
+    EXPECT_EQ(TakeEvents(), Events{"BeforeDelete 2"});
+    EXPECT_EQ(grid.GridRows(), 4);
+
+    cancelDelete = false;
+    deleteInstead = 3;
+    grid.UserDeleteRow(1);
+    EXPECT_EQ(ItemCodes(), (Codes{"ITEM1", "ITEM2", ""}));
+
+    deleteInstead = 0;
+    grid.UserDeleteRow(3);  // the entry row: a new one is offered
+    EXPECT_EQ(grid.GridRows(), 3);
+    EXPECT_TRUE(grid.IsBlankRow(3));
+
+    grid.AllowDeleteRows = false;
+    TakeEvents();
+    grid.UserDeleteRow(1);
+    EXPECT_EQ(events, Events{});
+    EXPECT_EQ(grid.GridRows(), 3);
+}
+
+TEST_F(NewNoteGridRows, TheEditFollowsItsRowWhenRowsAboveGoAndDiesWithItsOwn) {
+    grid.SetGridRow(3);
+    grid.UserType("7");
+    grid.RemoveRow(1);
+    EXPECT_EQ(grid.GridRow(), 2);
+    grid.UserKey(13);
+    EXPECT_EQ(grid.GetCell(2, 1), "7");
+
+    grid.UserGoto(1, 1);
+    grid.UserType("CHANGED");
+    TakeEvents();
+    grid.UserDeleteRow(1);
+    EXPECT_FALSE(grid.Editing());
+    EXPECT_EQ(TakeEvents(), (Events{"BeforeDelete 1", "AfterDelete"}));  // no check of the text given up
+    EXPECT_EQ(ItemCodes(), (Codes{"7", ""}));
+}
+
+}  // namespace

@@ -5,25 +5,31 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "host/dialog_answers.h"
 #include "host/plain_host.h"
-#include "host/settings.h"
-#include "host/transcript.h"
 #include "platform/recording_connection.h"
+#include "platform/runtime_error.h"
+#include "server/database_files.h"
 #include "server/embedded_connection.h"
+#include "server/schema.h"
+#include "support/scratch_files.h"
 
 namespace host_test {
 
-// A file name in the temporary folder that no other test uses; the file and its
-// companions (-wal, -shm) are removed at the end.
+// A scratch file name of this test's own; the file and its companions go at the end.
 class TempPath {
 public:
-    explicit TempPath(const std::string& suffix);
-    ~TempPath();
+    explicit TempPath(const std::string& suffix) : path_(test_support::ScratchPath("host", suffix)) {}
+    ~TempPath() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+        for (const char* companion : {"-wal", "-shm"}) std::filesystem::remove(path_ + companion, ignored);
+    }
     TempPath(const TempPath&) = delete;
     TempPath& operator=(const TempPath&) = delete;
     const std::string& str() const { return path_; }
@@ -34,23 +40,28 @@ private:
 
 class HostTest : public ::testing::Test {
 protected:
-    HostTest();
-
     // SQLite's own statements, straight on the database, not recorded.
-    void Sql(const std::string& script);
+    void Sql(const std::string& script) { database->ExecuteScript(script); }
     // Statements that reached the connection since the last Clear.
-    std::vector<std::string> Statements() const;
+    std::vector<std::string> Statements() const {
+        std::vector<std::string> statements;
+        for (const auto& call : connection->Calls())
+            if (call.kind == platform::RecordedCall::Kind::Statement) statements.push_back(call.text);
+        return statements;
+    }
     host_services::HostGlobal& global() { return host->Global(); }
     host_services::HostServices services() { return host->Services(); }
     std::vector<std::string> Lines() const { return transcript.Lines(); }
 
     TempPath file{".db"};
-    std::shared_ptr<server::EmbeddedConnection> database;
-    std::shared_ptr<platform::RecordingConnection> connection;
+    std::shared_ptr<server::EmbeddedConnection> database =
+        server::CreateDatabaseFromScripts(file.str(), {server::SchemaScript()});
+    std::shared_ptr<platform::RecordingConnection> connection =
+        std::make_shared<platform::RecordingConnection>(database);
     host::Settings settings;
     host::Transcript transcript;
     host::DialogAnswers answers;
-    std::unique_ptr<host::PlainHost> host;
+    std::unique_ptr<host::PlainHost> host = std::make_unique<host::PlainHost>(connection, settings, transcript, answers);
 };
 
 // A form of plain controls that keeps its own focus, as the screen's forms do.
@@ -70,6 +81,33 @@ public:
 private:
     std::string name_;
     platform::Control* active_ = nullptr;
+};
+
+// A connection with no database behind it: each procedure answers with the results
+// a test gave it, and every call is noted.
+class CannedConnection : public platform::Connection {
+public:
+    platform::RecordsetPtr Execute(const std::string& sql) override {
+        calls.push_back(sql);
+        return std::make_shared<platform::Recordset>(std::vector<platform::ResultSet>{{}});
+    }
+    platform::RecordsetPtr RunProcedure(const std::string& name, const platform::ParameterList& parameters) override {
+        calls.push_back(name);
+        lastParameters = parameters;
+        auto it = procedures.find(name);
+        if (it == procedures.end())
+            throw platform::RuntimeError(platform::err::DatabaseError, "Could not find stored procedure '" + name + "'.");
+        return std::make_shared<platform::Recordset>(it->second);
+    }
+    void BeginTrans() override { inTransaction = true; }
+    void CommitTrans() override { inTransaction = false; }
+    void RollbackTrans() override { inTransaction = false; }
+    bool InTransaction() const override { return inTransaction; }
+
+    std::map<std::string, std::vector<platform::ResultSet>> procedures;
+    std::vector<std::string> calls;
+    platform::ParameterList lastParameters;
+    bool inTransaction = false;
 };
 
 }  // namespace host_test

@@ -1,0 +1,324 @@
+// The plain host's dialogs, messages, labels, settings and printing.
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+#include "host_fixture.h"
+#include "platform/convert.h"
+#include "platform/error_handler.h"
+
+namespace host_test {
+namespace {
+
+using host_services::msgbox::YesNoCancelQuestionSecond;
+using host_services::msgbox::YesNoQuestionSecond;
+
+class DialogsTest : public HostTest {
+protected:
+    host_services::HostMessages& messages() { return services().messages; }
+    host_services::HostTools& tools() { return services().tools; }
+    platform::RecordsetPtr Rows(const platform::ResultSet& rows) {
+        return std::make_shared<platform::Recordset>(std::vector<platform::ResultSet>{rows});
+    }
+};
+
+TEST_F(DialogsTest, MessageBoxesTakeQueuedAnswersInOrderThenTheirDefaults) {
+    answers.Queue("AskMessage", {"7"});
+    answers.Queue("AskMessage", {"2"});
+    EXPECT_EQ(messages().AskMessage("Print?", YesNoQuestionSecond), 7);
+    EXPECT_EQ(messages().AskMessage("Print now?", YesNoCancelQuestionSecond), 2);
+    EXPECT_EQ(messages().AskMessage("Again?", YesNoQuestionSecond), 6);
+    EXPECT_EQ(messages().AskMessage("Again?", YesNoCancelQuestionSecond), 6);
+    EXPECT_EQ(messages().AskMessage("Invalid Password", 64), 1);
+    EXPECT_EQ(messages().AskMessage("Continue?", 1), 1);
+    EXPECT_EQ(Lines(), (std::vector<std::string>{
+                           "message 292 \"Print?\" -> 7",
+                           "message 291 \"Print now?\" -> 2",
+                           "message 292 \"Again?\" -> 6 (default)",
+                           "message 291 \"Again?\" -> 6 (default)",
+                           "message 64 \"Invalid Password\" -> 1 (default)",
+                           "message 1 \"Continue?\" -> 1 (default)"}));
+    EXPECT_EQ(transcript.TakeMessages().size(), 6u);
+}
+
+TEST_F(DialogsTest, EachKindOfDialogHasItsOwnQueue) {
+    answers.Queue("InputPassword", {"s3cret"});
+    EXPECT_EQ(messages().AskMessage("Sure?", YesNoQuestionSecond), 6) << "a password is no answer to a question";
+    std::string typed;
+    EXPECT_TRUE(tools().InputPassword("Password?", "Credit Limit Exceeded", typed));
+    EXPECT_EQ(typed, "s3cret");
+    EXPECT_EQ(Lines().back(), "InputPassword \"Password?\" \"Credit Limit Exceeded\" -> \"s3cret\"");
+}
+
+TEST_F(DialogsTest, ACancelledPasswordBoxGivesATabAndClosingAsksWhetherToStay) {
+    answers.Queue("InputBoxE", {"cancel"});
+    std::string typed;
+    EXPECT_FALSE(services().mainForm.InputBoxE("Password?", "Credit Limit Exceeded", typed));
+    EXPECT_EQ(typed, "\t");
+    EXPECT_FALSE(tools().InputPassword("Password?", "Credit Limit Exceeded", typed));
+    EXPECT_EQ(typed, "\t");
+    EXPECT_EQ(Lines().back(), "InputPassword \"Password?\" \"Credit Limit Exceeded\" -> cancel (default)");
+    answers.Queue("ConfirmSaveOnExit", {"false"});
+    EXPECT_FALSE(messages().ConfirmSaveOnExit(true));
+    EXPECT_TRUE(messages().ConfirmSaveOnExit(true));
+    EXPECT_NE(Lines().back().find("-> true (default)"), std::string::npos);
+}
+
+TEST_F(DialogsTest, ChoicesDefaultToNone) {
+    std::string code = "unchanged";
+    EXPECT_FALSE(tools().SelectFreeItem(4, "Buy ten", 2, code));
+    EXPECT_EQ(code, "unchanged");
+    EXPECT_EQ(Lines().back(), "SelectFreeItem 4 \"Buy ten\" 2 -> none (default)");
+    answers.Queue("SelectFreeItem", {"none"});
+    answers.Queue("SelectFreeItem", {"SOAP9"});
+    EXPECT_FALSE(tools().SelectFreeItem(4, "Buy ten", 2, code));
+    EXPECT_TRUE(tools().SelectFreeItem(4, "Buy ten", 2, code));
+    EXPECT_EQ(code, "SOAP9");
+
+    EXPECT_EQ(tools().SelectDocument(3), "");
+    answers.Queue("SelectDocument", {"SC12"});
+    EXPECT_EQ(tools().SelectDocument(3), "SC12");
+    EXPECT_EQ(Lines().back(), "SelectDocument 3 -> \"SC12\"");
+}
+
+TEST_F(DialogsTest, ASchemeIsPickedFromTheRowsOffered) {
+    using platform::ResultSet;
+    using platform::Value;
+    ResultSet schemes{{"SchemeID", "SchemeName", "SchemeType", "HasPrompt", "Prompt"},
+                      {{Value(4), Value("Buy ten"), Value(17), Value(1), Value("One free for ten")},
+                       {Value(9), Value("Big box"), Value(18), Value(0), Value("unused")}}};
+    auto offered = Rows(schemes);
+    long id = 0, type = 0;
+    std::string prompt = "x";
+
+    answers.Queue("SelectScheme", {"9"});
+    answers.Queue("SelectScheme", {"4"});
+    answers.Queue("SelectScheme", {"5"});
+    EXPECT_TRUE(tools().SelectScheme(offered, id, type, prompt, "SOAP1"));
+    EXPECT_EQ(id, 9);
+    EXPECT_EQ(type, 18);
+    EXPECT_EQ(prompt, "");
+    EXPECT_TRUE(tools().SelectScheme(offered, id, type, prompt, "SOAP1"));
+    EXPECT_EQ(type, 17);
+    EXPECT_EQ(prompt, "One free for ten");
+    EXPECT_FALSE(tools().SelectScheme(offered, id, type, prompt, "SOAP1")) << "5 was not offered";
+    EXPECT_EQ(Lines().back(), "SelectScheme \"SOAP1\" [4,9] -> 5 (not offered: none)");
+    EXPECT_FALSE(tools().SelectScheme(offered, id, type, prompt, "SOAP1"));
+    EXPECT_EQ(Lines().back(), "SelectScheme \"SOAP1\" [4,9] -> none (default)");
+    EXPECT_FALSE(offered->Eof()) << "the caller's recordset is not walked";
+}
+
+TEST_F(DialogsTest, TheMemoDialogChangesTheMemosOnlyWhenAcceptedAndEditable) {
+    std::string m1 = "a", m2 = "b", m3 = "c";
+    EXPECT_FALSE(tools().ShowMemoDialog(m1, m2, m3, false, 2));
+    answers.Queue("ShowMemoDialog", {"x", "y", "z", "cancel"});
+    EXPECT_FALSE(tools().ShowMemoDialog(m1, m2, m3, false, 2));
+    answers.Queue("ShowMemoDialog", {"x", "y", "z", "ok"});
+    EXPECT_TRUE(tools().ShowMemoDialog(m1, m2, m3, true, 2));
+    EXPECT_EQ(m1 + m2 + m3, "abc") << "a note on view keeps its memos";
+    answers.Queue("ShowMemoDialog", {"x", "y", "z", "ok"});
+    EXPECT_TRUE(tools().ShowMemoDialog(m1, m2, m3, false, 2));
+    EXPECT_EQ(m1 + m2 + m3, "xyz");
+    EXPECT_EQ(Lines().back(), "ShowMemoDialog \"a\" \"b\" \"c\" -> ok");
+}
+
+TEST_F(DialogsTest, AnswersNoDialogCouldGiveAreRefused) {
+    const std::vector<std::pair<std::string, std::vector<std::string>>> wrong = {
+        {"AskMessage", {"9"}},          {"AskMessage", {"yes"}},
+        {"AskMessage", {"6", "7"}},     {"ConfirmSaveOnExit", {"maybe"}},
+        {"SelectScheme", {"four"}},     {"ShowMemoDialog", {"a", "b", "ok"}},
+        {"ShowMemoDialog", {"a", "b", "c", "done"}}, {"InputPassword", {}},
+        {"NoSuchDialog", {"1"}}};
+    for (const auto& [dialog, values] : wrong) {
+        EXPECT_FALSE(host::DialogAnswers::Problem(dialog, values).empty()) << dialog;
+        EXPECT_THROW(answers.Queue(dialog, values), std::invalid_argument) << dialog;
+        EXPECT_FALSE(answers.Pending(dialog)) << dialog;
+    }
+}
+
+TEST_F(DialogsTest, TheDayCloseFollowsTheSettingAndTheOpeningDate) {
+    EXPECT_TRUE(tools().CheckCloseDay(platform::DateSerial(2026, 11, 22), 0));
+    EXPECT_FALSE(tools().CheckCloseDay(platform::DateSerial(2020, 3, 31), 0));
+    settings.Set("CloseDayOpen", "false");
+    EXPECT_FALSE(tools().CheckCloseDay(platform::DateSerial(2026, 11, 22), -1));
+    ASSERT_NE(transcript.LastStatus(), nullptr);
+    EXPECT_EQ(transcript.LastStatus()->flag, 1);
+}
+
+TEST_F(DialogsTest, InformationDialogsSayWhatTheyWereGiven) {
+    tools().ShowItemSchemes("SOAP1", platform::DateTime(2026, 11, 22, 9, 0, 0), "C1", {12, 340.5}, 0);
+    EXPECT_EQ(Lines().back(), "ShowItemSchemes \"SOAP1\" 2026-11-22 \"C1\" [12,340.5] 0 -> ok");
+
+    auto records = Rows({{"Product_Code"}, {{platform::Value("X1")}, {platform::Value("X2")}}});
+    tools().SetNotFoundRecords(records);
+    tools().ShowNotFoundDialog("Not in the item master");
+    EXPECT_EQ(Lines().back(), "ShowNotFoundDialog \"Not in the item master\" [X1,X2] -> ok");
+    EXPECT_FALSE(records->Eof());
+}
+
+TEST_F(DialogsTest, LabelsComeFromTheTableWithTheBaseTextAsFallback) {
+    Sql(R"(INSERT INTO Labels (BaseText, LabelKind, Caption) VALUES
+             ('Serial No: ', 'Label', 'Numero: '), ('Customer', 'Column', 'Client'),
+             ('ALL CUSTOMERS', 'Label', 'TOUS LES CLIENTS'), ('Untranslated', 'Label', ''))");
+    EXPECT_EQ(messages().GetLabel("Serial No: "), "Numero: ");
+    EXPECT_EQ(messages().GetLabel("serial no: ", "label"), "Numero: ") << "keys match without regard to case";
+    EXPECT_EQ(messages().GetLabel("Customer"), "Customer") << "a caption of another kind does not serve";
+    EXPECT_EQ(messages().GetLabel("Customer", "Column"), "Client");
+    EXPECT_EQ(messages().GetLabel("Untranslated"), "Untranslated");
+    EXPECT_EQ(messages().GetLabel("Select Beat"), "Select Beat");
+    EXPECT_EQ(messages().GetAllCustomersText(), "TOUS LES CLIENTS");
+    EXPECT_EQ(messages().GetBaseLabel("Numero: "), "Serial No: ");
+    EXPECT_EQ(messages().GetBaseLabel("Qty"), "Qty");
+    int reads = 0;
+    for (const auto& statement : Statements()) reads += statement.find("From Labels") != std::string::npos;
+    EXPECT_EQ(reads, 1) << "the table is read once";
+}
+
+TEST_F(DialogsTest, NumberedMessagesStatusLinesAndErrorsGoToTheTranscript) {
+    Sql("INSERT INTO ErrorMessages (ErrorID, Message) VALUES (500, 'Item {0} of {1}')");
+    global().ShowNumberedMessage(55, 1, {});
+    global().ShowNumberedMessage(999, 1, {});
+    global().ShowNumberedMessage(500, 1, {"A1", "B2"});
+    EXPECT_EQ(Lines(), (std::vector<std::string>{
+                           "numbered 55", "message 64 \"Select a valid Salesman.\" -> 1",
+                           "numbered 999", "message 64 \"Message 999 not found\" -> 1",
+                           "numbered 500", "message 64 \"Item A1 of B2\" -> 1"}));
+    EXPECT_EQ(transcript.TakeNumbered(), (std::vector<long>{55, 999, 500}));
+    EXPECT_TRUE(transcript.TakeNumbered().empty());
+
+    global().ShowStatus("Select an existing Customer.", 1);
+    ASSERT_NE(transcript.LastStatus(), nullptr);
+    EXPECT_EQ(transcript.LastStatus()->text, "Select an existing Customer.");
+    EXPECT_EQ(transcript.LastStatus()->flag, 1);
+    // The screen's handler reports through the host's error log.
+    platform::RunHandled(global(), "Dispatch: GetDetails - ",
+                         [] { throw platform::RuntimeError(platform::err::InvalidCall); });
+    EXPECT_EQ(Lines().back(), "error 5 Dispatch: GetDetails - Invalid procedure call or argument");
+    EXPECT_EQ(transcript.ErrorCount(), 1);
+}
+
+TEST(TranscriptTest, MessageTextsAreQuotedAsScriptsWriteThem) {
+    host::Transcript transcript;
+    std::vector<std::string> printed;
+    transcript.onLine = [&](const std::string& line) { printed.push_back(line); };
+    transcript.Message(64, "Say \"hi\"\tC:\\x", "1");
+    EXPECT_EQ(printed, std::vector<std::string>{"message 64 \"Say \\\"hi\\\"\\tC:\\\\x\" -> 1"});
+    EXPECT_EQ(transcript.TakeMessages(), std::vector<std::string>{"Say \"hi\"\tC:\\x"});
+    EXPECT_TRUE(transcript.TakeMessages().empty());
+}
+
+TEST_F(DialogsTest, ASessionSettingTakesEffectAtOnceAndABadValueIsRefused) {
+    settings.Set("GetOCGEnabled", "true");
+    settings.Set("getprintonsavemode", "0");
+    settings.Set("GetCustomerNameFirst", "-1");
+    EXPECT_TRUE(global().GetOCGEnabled());
+    EXPECT_EQ(global().GetPrintOnSaveMode(), 0);
+    EXPECT_TRUE(global().GetCustomerNameFirst());
+    settings.Set("GetCustomerNameFirst", "false");
+    EXPECT_FALSE(global().GetCustomerNameFirst());
+    host->SetOutputFolder("/tmp/notes");
+    EXPECT_EQ(settings.Text("OutputFolder"), "/tmp/notes");
+
+    EXPECT_THROW(settings.Set("GetOCGEnabled", "maybe"), std::invalid_argument);
+    EXPECT_THROW(settings.Set("GetPrintOnSaveMode", "two"), std::invalid_argument);
+    EXPECT_THROW(settings.Set("GetOpeningDate", "01/04/2020"), std::invalid_argument);
+    EXPECT_THROW(settings.Set("GetOCGEnabld", "false"), std::invalid_argument);
+    EXPECT_TRUE(global().GetOCGEnabled()) << "the old value is kept";
+    EXPECT_EQ(global().GetPrintOnSaveMode(), 0);
+    EXPECT_NE(host::Settings::Problem("GetOCGEnabld", "true").find("unknown setting"), std::string::npos);
+}
+
+TEST_F(DialogsTest, ASettingsFileIsTakenWholeOrNotAtAll) {
+    TempPath good(".ini"), bad(".ini");
+    std::ofstream(good.str()) << "[Settings]\nGetPrintOnSaveMode = 1\nAdministratorPassword = s3cret\n"
+                                 "[Other]\nGetOCGEnabled = true\n";
+    std::ofstream(bad.str()) << "[Settings]\nGetPrinterService = 1\nGetCloseDayMode = often\n";
+    EXPECT_TRUE(settings.LoadFile(good.str()));
+    EXPECT_EQ(global().GetPrintOnSaveMode(), 1);
+    EXPECT_FALSE(global().GetOCGEnabled()) << "only section [Settings] is read";
+    EXPECT_FALSE(settings.LoadFile(bad.str()));
+    EXPECT_NE(settings.LoadError().find("line 3"), std::string::npos) << settings.LoadError();
+    EXPECT_EQ(global().GetPrinterService(), 0) << "the good line before the bad one is not taken either";
+    EXPECT_FALSE(settings.LoadFile(good.str() + ".missing"));
+    EXPECT_EQ(global().GetPrintOnSaveMode(), 1);
+}
+
+TEST_F(DialogsTest, TheAdministratorPasswordIsHeldEncodedAndDecodesBack) {
+    settings.Set("AdministratorPassword", "s3cret pass");
+    std::string stored = global().GetAdministratorPassword();
+    EXPECT_NE(stored, "s3cret pass");
+    EXPECT_EQ(global().DecodeAdministratorPassword(stored), "s3cret pass");
+    settings.Set("AdministratorPassword", "");
+    EXPECT_EQ(global().DecodeAdministratorPassword(global().GetAdministratorPassword()), "");
+}
+
+class PrintingTest : public ::testing::Test {
+protected:
+    PrintingTest() {
+        using platform::ResultSet;
+        using platform::Value;
+        canned->procedures["sp_view_DispatchAbstract"] = {
+            ResultSet{{}, {}, 1},
+            ResultSet{{"DispatchID", "CustomerID", "DocReference"}, {{Value(15), Value("C1"), Value("DN15")}}}};
+        canned->procedures["sp_view_DispatchDetails_MUOM_QAX"] = {
+            ResultSet{{"Product_Code", "Quantity"}, {{Value("SOAP1"), Value(5)}, {Value("SOAP2"), Value(2.5)}}}};
+        host.SetOutputFolder(folder.str());
+    }
+    std::string Note() {
+        std::ifstream in(file);
+        std::stringstream text;
+        text << in.rdbuf();
+        return text.str();
+    }
+
+    TempPath folder{"-notes"};
+    std::string file = (std::filesystem::path(folder.str()) / "Dispatch-15.txt").string();
+    std::shared_ptr<CannedConnection> canned = std::make_shared<CannedConnection>();
+    host::Settings settings;
+    host::Transcript transcript;
+    host::DialogAnswers answers;
+    host::PlainHost host{canned, settings, transcript, answers};
+    host_services::HostTools& tools = host.Services().tools;
+};
+
+TEST_F(PrintingTest, TheDialogAndDirectPrintingRenderHeaderAndLinesToAFile) {
+    tools.ShowPrintDialog("Dispatch.ini", "sp_view_DispatchAbstract", "sp_view_DispatchDetails_MUOM_QAX", "15",
+                          "Dispatch", 0, 1);
+    std::string note = Note();
+    for (const char* part : {"Dispatch 15\n", "CustomerID: C1\n", "DocReference: DN15\n", "SOAP1 | 5\nSOAP2 | 2.5\n",
+                             "2 lines"})
+        EXPECT_NE(note.find(part), std::string::npos) << part << " in " << note;
+    EXPECT_EQ(transcript.Lines().back(), "print Dispatch 15 -> " + file + " (dialog, flag 1)");
+    ASSERT_EQ(canned->lastParameters.size(), 1u);
+    EXPECT_EQ(canned->lastParameters[0].type, platform::adtype::Integer);
+
+    std::filesystem::remove(file);
+    tools.PrintDirect("Dispatch.ini", "sp_view_DispatchAbstract", "sp_view_DispatchDetails_MUOM_QAX", 0,
+                      "Dispatch", 15);
+    EXPECT_EQ(Note(), note);
+    EXPECT_EQ(transcript.Lines().back(), "print Dispatch 15 -> " + file);
+}
+
+TEST_F(PrintingTest, WithoutProcedureNamesTheNoteIsStillWritten) {
+    tools.ShowPrintDialog("", "", "", "15", "Dispatch", 0, 0);
+    EXPECT_EQ(Note().rfind("Dispatch 15\n", 0), 0u);
+    EXPECT_TRUE(canned->calls.empty());
+    EXPECT_EQ(transcript.Lines().back(), "print Dispatch 15 -> " + file + " (dialog, flag 0)");
+}
+
+TEST_F(PrintingTest, ServerAndFileErrorsReachTheCaller) {
+    EXPECT_THROW(tools.ShowPrintDialog("", "sp_no_such", "", "15", "Dispatch", 0, 0), platform::RuntimeError);
+    std::ofstream(folder.str() + "-file") << "in the way";
+    host.SetOutputFolder(folder.str() + "-file");
+    try {
+        tools.PrintDirect("", "", "", 0, "Dispatch", 15);
+        FAIL() << "a file stands where the folder should be";
+    } catch (const platform::RuntimeError& error) {
+        EXPECT_EQ(error.Number(), 75);
+    }
+    std::filesystem::remove(folder.str() + "-file");
+    EXPECT_TRUE(transcript.Lines().empty());
+}
+
+}  // namespace
+}  // namespace host_test

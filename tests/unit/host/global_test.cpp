@@ -41,15 +41,10 @@ protected:
     }
 };
 
-TEST_F(GlobalTest, DocumentTypesAndTheirNextReferences) {
-    EXPECT_EQ(global().GetDefaultDocumentType(5), "DN-A");
-    EXPECT_EQ(global().GetDefaultDocumentType(6), "OTHER");
-    EXPECT_EQ(global().GetDefaultDocumentType(7), "");
+TEST_F(GlobalTest, TheNextReferenceIsThePrefixAndTheCountAfterTheLast) {
     const std::vector<std::pair<std::string, std::string>> next = {
         {"DN-A", "DA42"}, {"dn-a", "DA42"}, {"OLD", "OL4"}, {"Quo'te", "Q1"}, {"OTHER", ""}, {"NONE", ""}};
     for (const auto& [type, reference] : next) EXPECT_EQ(global().GetNextDocumentReference(type, 5), reference) << type;
-    Sql("UPDATE TransactionDocNumber SET Active = 0 WHERE DocumentType = 'DN-A'");
-    EXPECT_EQ(global().GetDefaultDocumentType(5), "");
 }
 
 TEST_F(GlobalTest, ReferencesSplitIntoLeadAndNumber) {
@@ -76,31 +71,12 @@ TEST_F(GlobalTest, LookupsEscapeTheirValues) {
         EXPECT_EQ(global().LookupFieldByKey("SOAbstract", "SONumber", reference), found) << reference;
 }
 
-TEST_F(GlobalTest, AComboIsFilledInTheTableOrderWithTheConditionAppended) {
-    TestForm form;
-    platform::ComboBox combo(form, "cbodocumenttype");
-    combo.AddItem("Select A Document Type");
-    combo.SetListIndex(0);
-    connection->Clear();
-    global().FillComboBox("TransactionDocNumber", "DocumentType", "DocumentType", combo, 0, 0,
-                          "And TransactionType=5");
-    EXPECT_EQ(Statements(), std::vector<std::string>{
-                                "Select DocumentType From TransactionDocNumber Where 1 = 1 And TransactionType=5"});
-    ASSERT_EQ(combo.ListCount(), 4);
-    EXPECT_EQ(combo.ListIndex(), 0) << "filling leaves the index alone";
-}
-
-TEST(NextRecordsetTest, SkipsTheLeadingRowCountsAndKeepsWhatFollows) {
+TEST_F(GlobalTest, NextRecordsetSkipsTheLeadingRowCountsAndKeepsWhatFollows) {
     using platform::ResultSet;
     using platform::Value;
     ResultSet rowCount{{}, {}, 1}, empty{{"a"}, {}}, answer{{"b"}, {{Value(7)}}}, after{{"c"}, {{Value(8)}}};
     auto call = std::make_shared<platform::Recordset>(std::vector<ResultSet>{rowCount, empty, answer, after});
-    host::Settings settings;
-    host::Transcript transcript;
-    host::DialogAnswers answers;
-    host::PlainHost host(std::make_shared<CannedConnection>(), settings, transcript, answers);
-
-    auto result = host.Global().NextRecordset(call);
+    auto result = global().NextRecordset(call);
     ASSERT_TRUE(result);
     EXPECT_EQ(result->FieldName(0), "b");
     EXPECT_EQ(platform::ToNumber(result->Fields(0)), 7);
@@ -108,11 +84,11 @@ TEST(NextRecordsetTest, SkipsTheLeadingRowCountsAndKeepsWhatFollows) {
     EXPECT_EQ(result->FieldName(0), "c");
     EXPECT_EQ(call->FieldCount(), 0) << "the caller's recordset stays on its own result";
 
-    result = host.Global().NextRecordset(std::make_shared<platform::Recordset>(std::vector<ResultSet>{rowCount, empty}));
+    result = global().NextRecordset(std::make_shared<platform::Recordset>(std::vector<ResultSet>{rowCount, empty}));
     ASSERT_TRUE(result);
     EXPECT_EQ(result->FieldName(0), "a");
     EXPECT_TRUE(result->Eof());
-    EXPECT_EQ(host.Global().NextRecordset(nullptr), nullptr);
+    EXPECT_EQ(global().NextRecordset(nullptr), nullptr);
 }
 
 TEST_F(GlobalTest, NumberFormatsReadBackWithVal) {
@@ -214,20 +190,13 @@ protected:
     platform::TextBox salesman{form, "txtSalesman"};
 };
 
-TEST_F(KeyboardTest, FocusMovesOnlyToAControlThatCanTakeItAndEnterMovesItOn) {
+TEST_F(KeyboardTest, FocusMovesOnlyToAControlThatCanTakeIt) {
     salesman.Visible = false;
     global().SetFocusTo(salesman);
     EXPECT_TRUE(form.moves.empty());
     global().SetFocusTo(billing);
     global().SetFocusTo(billing);
     EXPECT_EQ(form.moves, std::vector<std::string>{"txtBillingAddress"});
-
-    global().HandleEnterAdvance(0, billing, shipping);
-    EXPECT_TRUE(shipping.HasFocus());
-    global().HandleEnterAdvance(1, billing, shipping);
-    EXPECT_TRUE(billing.HasFocus()) << "Shift+Enter goes behind";
-    global().HandleEnterAdvance(2, billing, shipping);
-    EXPECT_TRUE(shipping.HasFocus());
 }
 
 TEST_F(KeyboardTest, TheSecondEnterInARowMovesOutOfAnAddress) {
@@ -260,18 +229,7 @@ TEST_F(KeyboardTest, ListViewSelectionWalksWithTheKeys) {
     }
 }
 
-TEST_F(KeyboardTest, CombosFindTheirEntriesWithoutRegardToCase) {
-    platform::ComboBox combo(form, "cbodocumenttype");
-    for (const char* type : {"Select A Document Type", "DN-A", "OLD"}) combo.AddItem(type);
-    combo.SetText("dn-a");
-    global().ComboFindExact(combo);
-    EXPECT_EQ(combo.ListIndex(), 1);
-    EXPECT_EQ(combo.Text(), "DN-A");
-    combo.SetText("Unknown");
-    global().ComboFindExact(combo);
-    EXPECT_EQ(combo.ListIndex(), -1);
-    EXPECT_EQ(combo.Text(), "Unknown");
-
+TEST_F(KeyboardTest, ComboTypeAheadGoesOnFromWhatWasTyped) {
     platform::ComboBox names(form, "cboCustomer");
     for (const char* name : {"Alpha", "Beta", "Bravo"}) names.AddItem(name);
     auto type = [&](int key) {
@@ -280,7 +238,7 @@ TEST_F(KeyboardTest, CombosFindTheirEntriesWithoutRegardToCase) {
         return names.Text();
     };
     EXPECT_EQ(type('b'), "Beta");
-    EXPECT_EQ(type('r'), "Bravo") << "type-ahead goes on from what was typed";
+    EXPECT_EQ(type('r'), "Bravo");
     EXPECT_EQ(type(kBackspace), "Beta");
     EXPECT_EQ(type('x'), "bx");
     EXPECT_EQ(names.ListIndex(), -1);

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <map>
 #include <memory>
 #include <string>
@@ -21,23 +20,6 @@
 
 namespace host_test {
 
-// A scratch file name of this test's own; the file and its companions go at the end.
-class TempPath {
-public:
-    explicit TempPath(const std::string& suffix) : path_(test_support::ScratchPath("host", suffix)) {}
-    ~TempPath() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-        for (const char* companion : {"-wal", "-shm"}) std::filesystem::remove(path_ + companion, ignored);
-    }
-    TempPath(const TempPath&) = delete;
-    TempPath& operator=(const TempPath&) = delete;
-    const std::string& str() const { return path_; }
-
-private:
-    std::string path_;
-};
-
 class HostTest : public ::testing::Test {
 protected:
     // SQLite's own statements, straight on the database, not recorded.
@@ -53,9 +35,8 @@ protected:
     host_services::HostServices services() { return host->Services(); }
     std::vector<std::string> Lines() const { return transcript.Lines(); }
 
-    TempPath file{".db"};
     std::shared_ptr<server::EmbeddedConnection> database =
-        server::CreateDatabaseFromScripts(file.str(), {server::SchemaScript()});
+        server::CreateDatabaseFromScripts(test_support::ScratchPath("host", ".db"), {server::SchemaScript()});
     std::shared_ptr<platform::RecordingConnection> connection =
         std::make_shared<platform::RecordingConnection>(database);
     host::Settings settings;

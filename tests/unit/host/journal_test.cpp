@@ -45,15 +45,10 @@ TEST_F(JournalTest, PostingsFollowTheCallersTransaction) {
     EXPECT_EQ(platform::ToNumber(connection->Execute("Select Count(*) From JournalPostings")->Fields(0)), 2);
     connection->RollbackTrans();
     EXPECT_TRUE(Postings().empty());
-
-    // The customer is debited and sales credited with the note's value.
-    connection->BeginTrans();
-    ASSERT_TRUE(journal().Journal(2, 15, error)) << error;
-    connection->CommitTrans();
-    EXPECT_EQ(Postings(), (std::vector<std::string>{"C1|125|0|20/11/2026 10:15:00|2|Dispatch 15|Admin",
-                                                    "Sales|0|125|20/11/2026 10:15:00|2|Dispatch 15|Admin"}));
 }
 
+// The customer is debited and sales credited with the note's value; a cancellation
+// turns the sides round and goes on the note's own date.
 TEST_F(JournalTest, ADatedPostingAndACancellation) {
     std::string error;
     ASSERT_TRUE(journal().Journal(1, 15, error, platform::DateSerial(2026, 11, 18))) << error;

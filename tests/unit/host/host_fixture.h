@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -12,7 +11,6 @@
 #include "host/dialog_answers.h"
 #include "host/plain_host.h"
 #include "platform/recording_connection.h"
-#include "platform/runtime_error.h"
 #include "server/database_files.h"
 #include "server/embedded_connection.h"
 #include "server/schema.h"
@@ -62,33 +60,6 @@ public:
 private:
     std::string name_;
     platform::Control* active_ = nullptr;
-};
-
-// A connection with no database behind it: each procedure answers with the results
-// a test gave it, and every call is noted.
-class CannedConnection : public platform::Connection {
-public:
-    platform::RecordsetPtr Execute(const std::string& sql) override {
-        calls.push_back(sql);
-        return std::make_shared<platform::Recordset>(std::vector<platform::ResultSet>{{}});
-    }
-    platform::RecordsetPtr RunProcedure(const std::string& name, const platform::ParameterList& parameters) override {
-        calls.push_back(name);
-        lastParameters = parameters;
-        auto it = procedures.find(name);
-        if (it == procedures.end())
-            throw platform::RuntimeError(platform::err::DatabaseError, "Could not find stored procedure '" + name + "'.");
-        return std::make_shared<platform::Recordset>(it->second);
-    }
-    void BeginTrans() override { inTransaction = true; }
-    void CommitTrans() override { inTransaction = false; }
-    void RollbackTrans() override { inTransaction = false; }
-    bool InTransaction() const override { return inTransaction; }
-
-    std::map<std::string, std::vector<platform::ResultSet>> procedures;
-    std::vector<std::string> calls;
-    platform::ParameterList lastParameters;
-    bool inTransaction = false;
 };
 
 }  // namespace host_test

@@ -1,7 +1,5 @@
-// The plain host's dialogs, messages, labels, settings and printing.
-#include <filesystem>
+// The plain host's dialogs, messages, labels, settings and printing errors.
 #include <fstream>
-#include <sstream>
 #include <stdexcept>
 
 #include "host_fixture.h"
@@ -240,53 +238,13 @@ TEST_F(DialogsTest, TheAdministratorPasswordIsHeldEncodedAndDecodesBack) {
     EXPECT_EQ(global().DecodeAdministratorPassword(stored), "s3cret pass");
 }
 
-class PrintingTest : public ::testing::Test {
-protected:
-    PrintingTest() {
-        using platform::ResultSet;
-        using platform::Value;
-        canned->procedures["sp_view_DispatchAbstract"] = {
-            ResultSet{{}, {}, 1},
-            ResultSet{{"DispatchID", "CustomerID", "DocReference"}, {{Value(15), Value("C1"), Value("DN15")}}}};
-        canned->procedures["sp_view_DispatchDetails_MUOM_QAX"] = {
-            ResultSet{{"Product_Code", "Quantity"}, {{Value("SOAP1"), Value(5)}, {Value("SOAP2"), Value(2.5)}}}};
-        host.SetOutputFolder(folder);
-    }
-    std::string Note() {
-        std::ifstream in(file);
-        std::stringstream text;
-        text << in.rdbuf();
-        return text.str();
-    }
-
-    const std::string folder = test_support::ScratchPath("host", "-notes");
-    const std::string file = (std::filesystem::path(folder) / "Dispatch-15.txt").string();
-    std::shared_ptr<CannedConnection> canned = std::make_shared<CannedConnection>();
-    host::Settings settings;
-    host::Transcript transcript;
-    host::DialogAnswers answers;
-    host::PlainHost host{canned, settings, transcript, answers};
-    host_services::HostTools& tools = host.Services().tools;
-};
-
-TEST_F(PrintingTest, TheDialogRendersHeaderAndLinesToAFile) {
-    tools.ShowPrintDialog("Dispatch.ini", "sp_view_DispatchAbstract", "sp_view_DispatchDetails_MUOM_QAX", "15",
-                          "Dispatch", 0, 1);
-    std::string note = Note();
-    for (const char* part : {"Dispatch 15\n", "CustomerID: C1\n", "DocReference: DN15\n", "SOAP1 | 5\nSOAP2 | 2.5\n",
-                             "2 lines"})
-        EXPECT_NE(note.find(part), std::string::npos) << part << " in " << note;
-    EXPECT_EQ(transcript.Lines().back(), "print Dispatch 15 -> " + file + " (dialog, flag 1)");
-    ASSERT_EQ(canned->lastParameters.size(), 1u);
-    EXPECT_EQ(canned->lastParameters[0].type, platform::adtype::Integer);
-}
-
-TEST_F(PrintingTest, ServerAndFileErrorsReachTheCaller) {
-    EXPECT_THROW(tools.ShowPrintDialog("", "sp_no_such", "", "15", "Dispatch", 0, 0), platform::RuntimeError);
-    std::ofstream(folder + "-file") << "in the way";
-    host.SetOutputFolder(folder + "-file");
+TEST_F(DialogsTest, PrintingErrorsOfTheServerAndTheFileReachTheCaller) {
+    EXPECT_THROW(tools().ShowPrintDialog("", "sp_no_such", "", "15", "Dispatch", 0, 0), platform::RuntimeError);
+    const std::string inTheWay = test_support::ScratchPath("host", "-file");
+    std::ofstream(inTheWay) << "in the way";
+    host->SetOutputFolder(inTheWay);
     try {
-        tools.PrintDirect("", "", "", 0, "Dispatch", 15);
+        tools().PrintDirect("", "", "", 0, "Dispatch", 15);
         FAIL() << "a file stands where the folder should be";
     } catch (const platform::RuntimeError& error) {
         EXPECT_EQ(error.Number(), 75);

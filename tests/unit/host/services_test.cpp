@@ -16,9 +16,6 @@ class DialogsTest : public HostTest {
 protected:
     host_services::HostMessages& messages() { return services().messages; }
     host_services::HostTools& tools() { return services().tools; }
-    platform::RecordsetPtr Rows(const platform::ResultSet& rows) {
-        return std::make_shared<platform::Recordset>(std::vector<platform::ResultSet>{rows});
-    }
 };
 
 TEST_F(DialogsTest, MessageBoxesTakeQueuedAnswersInOrderThenTheirDefaults) {
@@ -63,50 +60,6 @@ TEST_F(DialogsTest, ACancelledPasswordBoxGivesATabAndClosingAsksWhetherToStay) {
     EXPECT_NE(Lines().back().find("-> true (default)"), std::string::npos);
 }
 
-TEST_F(DialogsTest, ChoicesDefaultToNone) {
-    std::string code = "unchanged";
-    EXPECT_FALSE(tools().SelectFreeItem(4, "Buy ten", 2, code));
-    EXPECT_EQ(code, "unchanged");
-    EXPECT_EQ(Lines().back(), "SelectFreeItem 4 \"Buy ten\" 2 -> none (default)");
-    answers.Queue("SelectFreeItem", {"none"});
-    answers.Queue("SelectFreeItem", {"SOAP9"});
-    EXPECT_FALSE(tools().SelectFreeItem(4, "Buy ten", 2, code));
-    EXPECT_TRUE(tools().SelectFreeItem(4, "Buy ten", 2, code));
-    EXPECT_EQ(code, "SOAP9");
-
-    EXPECT_EQ(tools().SelectDocument(3), "");
-    answers.Queue("SelectDocument", {"SC12"});
-    EXPECT_EQ(tools().SelectDocument(3), "SC12");
-    EXPECT_EQ(Lines().back(), "SelectDocument 3 -> \"SC12\"");
-}
-
-TEST_F(DialogsTest, ASchemeIsPickedFromTheRowsOffered) {
-    using platform::ResultSet;
-    using platform::Value;
-    ResultSet schemes{{"SchemeID", "SchemeName", "SchemeType", "HasPrompt", "Prompt"},
-                      {{Value(4), Value("Buy ten"), Value(17), Value(1), Value("One free for ten")},
-                       {Value(9), Value("Big box"), Value(18), Value(0), Value("unused")}}};
-    auto offered = Rows(schemes);
-    long id = 0, type = 0;
-    std::string prompt = "x";
-
-    answers.Queue("SelectScheme", {"9"});
-    answers.Queue("SelectScheme", {"4"});
-    answers.Queue("SelectScheme", {"5"});
-    EXPECT_TRUE(tools().SelectScheme(offered, id, type, prompt, "SOAP1"));
-    EXPECT_EQ(id, 9);
-    EXPECT_EQ(type, 18);
-    EXPECT_EQ(prompt, "");
-    EXPECT_TRUE(tools().SelectScheme(offered, id, type, prompt, "SOAP1"));
-    EXPECT_EQ(type, 17);
-    EXPECT_EQ(prompt, "One free for ten");
-    EXPECT_FALSE(tools().SelectScheme(offered, id, type, prompt, "SOAP1")) << "5 was not offered";
-    EXPECT_EQ(Lines().back(), "SelectScheme \"SOAP1\" [4,9] -> 5 (not offered: none)");
-    EXPECT_FALSE(tools().SelectScheme(offered, id, type, prompt, "SOAP1"));
-    EXPECT_EQ(Lines().back(), "SelectScheme \"SOAP1\" [4,9] -> none (default)");
-    EXPECT_FALSE(offered->Eof()) << "the caller's recordset is not walked";
-}
-
 TEST_F(DialogsTest, TheMemoDialogChangesTheMemosOnlyWhenAcceptedAndEditable) {
     std::string m1 = "a", m2 = "b", m3 = "c";
     EXPECT_FALSE(tools().ShowMemoDialog(m1, m2, m3, false, 2));
@@ -130,24 +83,9 @@ TEST_F(DialogsTest, AnswersNoDialogCouldGiveAreRefused) {
     }
 }
 
-TEST_F(DialogsTest, TheDayCloseFollowsTheSettingAndTheOpeningDate) {
-    EXPECT_TRUE(tools().CheckCloseDay(platform::DateSerial(2026, 11, 22), 0));
-    EXPECT_FALSE(tools().CheckCloseDay(platform::DateSerial(2020, 3, 31), 0));
-    settings.Set("CloseDayOpen", "false");
-    EXPECT_FALSE(tools().CheckCloseDay(platform::DateSerial(2026, 11, 22), -1));
-    ASSERT_NE(transcript.LastStatus(), nullptr);
-    EXPECT_EQ(transcript.LastStatus()->flag, 1);
-}
-
-TEST_F(DialogsTest, InformationDialogsSayWhatTheyWereGiven) {
+TEST_F(DialogsTest, TheSchemesDialogSaysWhatItWasGiven) {
     tools().ShowItemSchemes("SOAP1", platform::DateTime(2026, 11, 22, 9, 0, 0), "C1", {12, 340.5}, 0);
     EXPECT_EQ(Lines().back(), "ShowItemSchemes \"SOAP1\" 2026-11-22 \"C1\" [12,340.5] 0 -> ok");
-
-    auto records = Rows({{"Product_Code"}, {{platform::Value("X1")}, {platform::Value("X2")}}});
-    tools().SetNotFoundRecords(records);
-    tools().ShowNotFoundDialog("Not in the item master");
-    EXPECT_EQ(Lines().back(), "ShowNotFoundDialog \"Not in the item master\" [X1,X2] -> ok");
-    EXPECT_FALSE(records->Eof());
 }
 
 TEST_F(DialogsTest, LabelsComeFromTheTableWithTheBaseTextAsFallback) {

@@ -92,7 +92,6 @@ TEST_F(GlobalTest, NextRecordsetSkipsTheLeadingRowCountsAndKeepsWhatFollows) {
 }
 
 TEST_F(GlobalTest, NumberFormatsReadBackWithVal) {
-    EXPECT_EQ(global().GetNumberFormat(3), "0.000");
     std::string quantity = global().GetNumberFormat(-1);
     for (double value : {5.0, 1234567.0, 2.5, 0.125}) {
         std::string shown = platform::Format(platform::Value(value), quantity);

@@ -37,18 +37,16 @@ TEST_F(DialogsTest, MessageBoxesTakeQueuedAnswersInOrderThenTheirDefaults) {
     EXPECT_EQ(transcript.TakeMessages().size(), 6u);
 }
 
-TEST_F(DialogsTest, EachKindOfDialogHasItsOwnQueue) {
+TEST_F(DialogsTest, EachKindOfDialogHasItsOwnQueueAndItsDefault) {
     answers.Queue("InputPassword", {"s3cret"});
     EXPECT_EQ(messages().AskMessage("Sure?", YesNoQuestionSecond), 6) << "a password is no answer to a question";
     std::string typed;
     EXPECT_TRUE(tools().InputPassword("Password?", "Credit Limit Exceeded", typed));
     EXPECT_EQ(typed, "s3cret");
     EXPECT_EQ(Lines().back(), "InputPassword \"Password?\" \"Credit Limit Exceeded\" -> \"s3cret\"");
-}
 
-TEST_F(DialogsTest, ACancelledPasswordBoxGivesATabAndClosingAsksWhetherToStay) {
+    // A cancelled password box gives a tab.
     answers.Queue("InputBoxE", {"cancel"});
-    std::string typed;
     EXPECT_FALSE(services().mainForm.InputBoxE("Password?", "Credit Limit Exceeded", typed));
     EXPECT_EQ(typed, "\t");
     EXPECT_FALSE(tools().InputPassword("Password?", "Credit Limit Exceeded", typed));

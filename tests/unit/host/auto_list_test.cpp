@@ -49,6 +49,15 @@ TEST_F(AutoListTest, TypedTextRunsTheTableQueryWithItsQuotesDoubled) {
     list->ShowList("Zz");
     EXPECT_FALSE(list->GetVisible()) << "nothing found opens nothing";
     EXPECT_EQ(host->VisibleList(), nullptr);
+
+    connection->Clear();
+    list->SetEnabled(true);  // while the program writes the box
+    list->ShowList("A");
+    EXPECT_FALSE(list->GetVisible());
+    EXPECT_TRUE(Statements().empty());
+    list->SetEnabled(false);
+    list->ShowList("A");
+    EXPECT_TRUE(list->GetVisible());
 }
 
 TEST_F(AutoListTest, RowsComeInDisplayOrderAfterTheAllOption) {
@@ -87,16 +96,6 @@ TEST_F(AutoListTest, APickWritesTextThenTagWithTheListShut) {
     EXPECT_EQ(Statements().size(), 1u) << "the write must not have run the query again";
     box.SetText("Ab");
     EXPECT_TRUE(list->GetVisible()) << "typing afterwards opens it again";
-}
-
-TEST_F(AutoListTest, WhileTheProgramWritesTheListStaysShut) {
-    list->SetEnabled(true);
-    list->ShowList("A");
-    EXPECT_FALSE(list->GetVisible());
-    EXPECT_TRUE(Statements().empty());
-    list->SetEnabled(false);
-    list->ShowList("A");
-    EXPECT_TRUE(list->GetVisible());
 }
 
 TEST_F(AutoListTest, KeysWalkPickAndClose) {

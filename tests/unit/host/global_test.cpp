@@ -157,24 +157,15 @@ TEST_F(GlobalTest, EveryOtherQuantityTextIsRefusedWithoutAnError) {
     EXPECT_EQ(transcript.ErrorCount(), 0);
 }
 
-TEST_F(GlobalTest, UnitDescriptionsAndListIndexes) {
+TEST_F(GlobalTest, UnitDescriptionsTakeTheSalesUnitWhenNoneIsGiven) {
     long uom = 0;
-    EXPECT_EQ(global().GetUOMDescription("THREE", uom), "Carton") << "the sales unit when none is given";
+    EXPECT_EQ(global().GetUOMDescription("THREE", uom), "Carton");
     EXPECT_EQ(uom, 3);
     uom = 2;
     EXPECT_EQ(global().GetUOMDescription("THREE", uom), "Box");
     EXPECT_EQ(uom, 2);
     uom = 0;
     EXPECT_EQ(global().GetUOMDescription("NOSUCH", uom), "");
-
-    TestForm form;
-    platform::ListBox list(form, "lstUOM");
-    list.AddItem("Multiple", 0);
-    list.AddItem("Box", 2);
-    list.AddItem("Carton", 3);
-    EXPECT_EQ(global().ComputeUOMIndex(list, 3), 2);
-    EXPECT_EQ(global().ComputeUOMIndex(list, 0), 0);
-    EXPECT_EQ(global().ComputeUOMIndex(list, 7), -1);
 }
 
 constexpr int kEnter = 13, kBackspace = 8, kHome = 36, kEnd = 35, kUp = 38, kDown = 40;

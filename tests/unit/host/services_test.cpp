@@ -167,13 +167,6 @@ TEST_F(DialogsTest, ASettingsFileIsTakenWholeOrNotAtAll) {
     EXPECT_EQ(global().GetPrintOnSaveMode(), 1);
 }
 
-TEST_F(DialogsTest, TheAdministratorPasswordIsHeldEncodedAndDecodesBack) {
-    settings.Set("AdministratorPassword", "s3cret pass");
-    std::string stored = global().GetAdministratorPassword();
-    EXPECT_NE(stored, "s3cret pass");
-    EXPECT_EQ(global().DecodeAdministratorPassword(stored), "s3cret pass");
-}
-
 TEST_F(DialogsTest, PrintingErrorsOfTheServerAndTheFileReachTheCaller) {
     EXPECT_THROW(tools().ShowPrintDialog("", "sp_no_such", "", "15", "Dispatch", 0, 0), platform::RuntimeError);
     const std::string inTheWay = test_support::ScratchPath("host", "-file");

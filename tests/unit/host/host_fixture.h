@@ -4,53 +4,43 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "host/dialog_answers.h"
 #include "host/plain_host.h"
-#include "host/settings.h"
-#include "host/transcript.h"
 #include "platform/recording_connection.h"
+#include "server/database_files.h"
 #include "server/embedded_connection.h"
+#include "server/schema.h"
+#include "support/scratch_files.h"
 
 namespace host_test {
 
-// A file name in the temporary folder that no other test uses; the file and its
-// companions (-wal, -shm) are removed at the end.
-class TempPath {
-public:
-    explicit TempPath(const std::string& suffix);
-    ~TempPath();
-    TempPath(const TempPath&) = delete;
-    TempPath& operator=(const TempPath&) = delete;
-    const std::string& str() const { return path_; }
-
-private:
-    std::string path_;
-};
-
 class HostTest : public ::testing::Test {
 protected:
-    HostTest();
-
     // SQLite's own statements, straight on the database, not recorded.
-    void Sql(const std::string& script);
+    void Sql(const std::string& script) { database->ExecuteScript(script); }
     // Statements that reached the connection since the last Clear.
-    std::vector<std::string> Statements() const;
+    std::vector<std::string> Statements() const {
+        std::vector<std::string> statements;
+        for (const auto& call : connection->Calls())
+            if (call.kind == platform::RecordedCall::Kind::Statement) statements.push_back(call.text);
+        return statements;
+    }
     host_services::HostGlobal& global() { return host->Global(); }
     host_services::HostServices services() { return host->Services(); }
     std::vector<std::string> Lines() const { return transcript.Lines(); }
 
-    TempPath file{".db"};
-    std::shared_ptr<server::EmbeddedConnection> database;
-    std::shared_ptr<platform::RecordingConnection> connection;
+    std::shared_ptr<server::EmbeddedConnection> database =
+        server::CreateDatabaseFromScripts(test_support::ScratchPath("host", ".db"), {server::SchemaScript()});
+    std::shared_ptr<platform::RecordingConnection> connection =
+        std::make_shared<platform::RecordingConnection>(database);
     host::Settings settings;
     host::Transcript transcript;
     host::DialogAnswers answers;
-    std::unique_ptr<host::PlainHost> host;
+    std::unique_ptr<host::PlainHost> host = std::make_unique<host::PlainHost>(connection, settings, transcript, answers);
 };
 
 // A form of plain controls that keeps its own focus, as the screen's forms do.

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "host_fixture.h"
 #include "platform/convert.h"
 #include "platform/fault_connection.h"
@@ -16,11 +14,9 @@ protected:
             INSERT INTO Items (Product_Code, ProductName, CategoryID, UOM, BaseUOM) VALUES ('SOAP1', 'Soap', 1, 1, 1);
             INSERT INTO Customer (CustomerID, Company_Name) VALUES ('C1', 'Acme Traders');
             INSERT INTO DispatchAbstract (DispatchID, DispatchDate, CustomerID) VALUES
-                (15, '2026-11-20 10:15:00', 'C1'),
-                (16, '2026-11-21 00:00:00', 'C1');
+                (15, '2026-11-20 10:15:00', 'C1'), (16, '2026-11-21 00:00:00', 'C1');
             INSERT INTO DispatchDetail (DispatchID, Product_Code, Quantity, SalePrice, UOM) VALUES
-                (15, 'SOAP1', 10, 12.5, 1),
-                (15, 'SOAP1', 2, 0, 1);
+                (15, 'SOAP1', 10, 12.5, 1), (15, 'SOAP1', 2, 0, 1);
         )");
     }
 
@@ -41,27 +37,18 @@ protected:
     }
 };
 
-TEST_F(JournalTest, PostingsInsideATransactionThatIsRolledBackLeaveNothing) {
-    connection->BeginTrans();
+TEST_F(JournalTest, PostingsFollowTheCallersTransaction) {
     std::string error;
+    connection->BeginTrans();
     EXPECT_TRUE(journal().Journal(2, 15, error)) << error;
     EXPECT_TRUE(connection->InTransaction()) << "the caller's transaction stays open";
-    auto inside = connection->Execute("Select Count(*) From JournalPostings");
-    EXPECT_EQ(platform::ToNumber(inside->Fields(0)), 2);
+    EXPECT_EQ(platform::ToNumber(connection->Execute("Select Count(*) From JournalPostings")->Fields(0)), 2);
     connection->RollbackTrans();
     EXPECT_TRUE(Postings().empty());
 }
 
-TEST_F(JournalTest, TheCustomerIsDebitedAndSalesCreditedWithTheNotesValue) {
-    connection->BeginTrans();
-    std::string error;
-    ASSERT_TRUE(journal().Journal(2, 15, error)) << error;
-    connection->CommitTrans();
-    EXPECT_EQ(Postings(), (std::vector<std::string>{
-                              "C1|125|0|20/11/2026 10:15:00|2|Dispatch 15|Admin",
-                              "Sales|0|125|20/11/2026 10:15:00|2|Dispatch 15|Admin"}));
-}
-
+// The customer is debited and sales credited with the note's value; a cancellation
+// turns the sides round and goes on the note's own date.
 TEST_F(JournalTest, ADatedPostingAndACancellation) {
     std::string error;
     ASSERT_TRUE(journal().Journal(1, 15, error, platform::DateSerial(2026, 11, 18))) << error;

@@ -1,0 +1,245 @@
+// The host's global routines: documents and their references, lookups, units of
+// measure, focus and keys.
+#include "host_fixture.h"
+#include "platform/controls.h"
+#include "platform/convert.h"
+
+namespace host_test {
+namespace {
+
+class GlobalTest : public HostTest {
+protected:
+    GlobalTest() {
+        Sql(R"(
+            INSERT INTO TransactionDocNumber (TransactionType, DocumentType, Prefix, LastCount, Active, IsDefault) VALUES
+                (5, 'DN-A', 'DA', 41, 1, 1), (5, 'OLD', 'OL', 3, 0, 0), (5, 'Quo''te', 'Q', 0, 1, 0),
+                (6, 'OTHER', 'OT', 1, 1, 1);
+            INSERT INTO Customer (CustomerID, Company_Name) VALUES ('C2', 'O''Brien Stores');
+            INSERT INTO SOAbstract (SONumber, SODate, CustomerID) VALUES (12, '2026-11-01 00:00:00', 'C2');
+            INSERT INTO UOM (UOM, Description) VALUES (1, 'Piece'), (2, 'Box'), (3, 'Carton');
+            INSERT INTO ItemCategories (CategoryID, Category_Name) VALUES (1, 'Soaps');
+            INSERT INTO Items (Product_Code, ProductName, CategoryID, UOM, BaseUOM, UOM1, UOM1_Conversion, UOM2,
+                               UOM2_Conversion) VALUES
+                ('ONE', 'Loose soap', 1, 1, 1, NULL, NULL, NULL, NULL),
+                ('KID''S', 'Kid''s soap', 1, 1, 1, NULL, NULL, NULL, NULL),
+                ('TWO', 'Soap in boxes', 1, 2, 1, 2, 12, NULL, NULL),
+                ('THREE', 'Soap in cartons', 1, 3, 1, 2, 12, 3, 144);
+        )");
+    }
+
+    // Validates and checks that a refusal leaves both out values at 0.
+    bool Valid(const std::string& item, const std::string& quantity, double* base = nullptr) {
+        int parts = -1;
+        double baseQuantity = -1;
+        bool valid = global().ValidateUOMQuantity(item, quantity, parts, baseQuantity);
+        if (!valid) {
+            EXPECT_EQ(parts, 0) << quantity;
+            EXPECT_EQ(baseQuantity, 0) << quantity;
+        }
+        if (base) *base = baseQuantity;
+        return valid;
+    }
+};
+
+TEST_F(GlobalTest, TheNextReferenceIsThePrefixAndTheCountAfterTheLast) {
+    const std::vector<std::pair<std::string, std::string>> next = {
+        {"DN-A", "DA42"}, {"dn-a", "DA42"}, {"OLD", "OL4"}, {"Quo'te", "Q1"}, {"OTHER", ""}, {"NONE", ""}};
+    for (const auto& [type, reference] : next) EXPECT_EQ(global().GetNextDocumentReference(type, 5), reference) << type;
+}
+
+TEST_F(GlobalTest, ReferencesSplitIntoLeadAndNumber) {
+    struct Case { const char* reference; long number; int prefix; };
+    for (const Case& c : std::vector<Case>{{"DN1234", 1234, 2}, {"1234", 1234, 0}, {"DN/12X3", 12, 3}, {"DN", 0, 2}}) {
+        EXPECT_EQ(global().ParseDocumentNumber(c.reference), c.number) << c.reference;
+        EXPECT_EQ(global().GetDocumentPrefixLength(c.reference), c.prefix) << c.reference;
+    }
+    EXPECT_EQ(global().ParseDocumentNumber(""), 0);
+    EXPECT_EQ(global().GetVoucherPrefix(global().GetDispatchPrefixKey()), "DN");
+    EXPECT_EQ(global().GetVoucherPrefix(global().GetSCPrefixKey()), "SC");
+    EXPECT_EQ(global().GetVoucherPrefix(global().GetPOPrefixKey()), "PO");
+    EXPECT_EQ(global().GetVoucherPrefix("NO SUCH"), "");
+}
+
+TEST_F(GlobalTest, LookupsEscapeTheirValues) {
+    EXPECT_EQ(global().LookupName("Customer", "CustomerID", "Company_Name", "C2"), "O'Brien Stores");
+    EXPECT_EQ(global().LookupCode("Customer", "CustomerID", "Company_Name", "O'Brien Stores"), "C2");
+    EXPECT_EQ(global().LookupCode("Customer", "CustomerID", "Company_Name", "x' Or '1' = '1"), "");
+    EXPECT_EQ(global().LookupName("Customer", "CustomerID", "Company_Name", "C9"), "");
+    EXPECT_TRUE(global().LookupValue(*connection, "Select Company_Name From Customer Where 1 = 0").IsNull());
+    for (const auto& [reference, found] : std::vector<std::pair<std::string, long>>{
+             {"SC12", 12}, {"12", 12}, {"SC99", 0}, {"SC", 0}})
+        EXPECT_EQ(global().LookupFieldByKey("SOAbstract", "SONumber", reference), found) << reference;
+}
+
+TEST_F(GlobalTest, NextRecordsetSkipsTheLeadingRowCountsAndKeepsWhatFollows) {
+    using platform::ResultSet;
+    using platform::Value;
+    ResultSet rowCount{{}, {}, 1}, empty{{"a"}, {}}, answer{{"b"}, {{Value(7)}}}, after{{"c"}, {{Value(8)}}};
+    auto call = std::make_shared<platform::Recordset>(std::vector<ResultSet>{rowCount, empty, answer, after});
+    auto result = global().NextRecordset(call);
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->FieldName(0), "b");
+    EXPECT_EQ(platform::ToNumber(result->Fields(0)), 7);
+    ASSERT_TRUE(result->NextRecordset());
+    EXPECT_EQ(result->FieldName(0), "c");
+    EXPECT_EQ(call->FieldCount(), 0) << "the caller's recordset stays on its own result";
+
+    result = global().NextRecordset(std::make_shared<platform::Recordset>(std::vector<ResultSet>{rowCount, empty}));
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->FieldName(0), "a");
+    EXPECT_TRUE(result->Eof());
+    EXPECT_EQ(global().NextRecordset(nullptr), nullptr);
+}
+
+TEST_F(GlobalTest, NumberFormatsReadBackWithVal) {
+    std::string quantity = global().GetNumberFormat(-1);
+    for (double value : {5.0, 1234567.0, 2.5, 0.125}) {
+        std::string shown = platform::Format(platform::Value(value), quantity);
+        EXPECT_EQ(shown.find(','), std::string::npos) << shown;
+        EXPECT_NE(shown.back(), '.') << shown;
+        EXPECT_EQ(platform::Val(shown), value) << shown;
+    }
+    EXPECT_EQ(platform::Format(platform::Value(12.5), global().GetNumberFormat(0)), "12.50");
+}
+
+TEST_F(GlobalTest, TheWorkingDateIsTheSessionsAndTransactionsGoByItsDay) {
+    host->SetServerDate(platform::DateTime(2026, 11, 22, 10, 30, 0));
+    EXPECT_EQ(global().GetCurrentDate(0), platform::DateTime(2026, 11, 22, 10, 30, 0));
+    EXPECT_EQ(global().GetTransactionDate(), platform::DateSerial(2026, 11, 22));
+    settings.Set("GetTransactionDate", "2026-11-20");
+    EXPECT_EQ(global().GetTransactionDate(), platform::DateSerial(2026, 11, 20));
+}
+
+TEST_F(GlobalTest, UnitRatesFollowTheLadderOfEachItem) {
+    struct Case { const char* item; long uom; double rate; };
+    for (const Case& c : std::vector<Case>{{"ONE", 1, 1},   {"ONE", 2, 0},      {"TWO", 1, 1},    {"TWO", 2, 12},
+                                           {"TWO", 3, 0},   {"THREE", 3, 144},  {"three", 2, 12}, {"THREE", 0, 1},
+                                           {"NOSUCH", 1, 0}, {"", 1, 0},        {"KID'S", 1, 1}})
+        EXPECT_EQ(global().ConvertToBaseUOM(c.item, c.uom), c.rate) << c.item << " " << c.uom;
+
+    struct Level { const char* item; long level; double rate; long uom; };
+    for (const Level& c : std::vector<Level>{
+             {"THREE", 3, 144, 3}, {"THREE", 2, 12, 2}, {"THREE", 1, 1, 1}, {"TWO", 3, 0, 0}, {"TWO", 4, 0, 0},
+             {"NOSUCH", 1, 0, 0}}) {
+        long uom = -1;
+        EXPECT_EQ(global().ConvertWithRate(c.item, c.level, uom), c.rate) << c.item << " " << c.level;
+        EXPECT_EQ(uom, c.uom) << c.item << " " << c.level;
+    }
+}
+
+TEST_F(GlobalTest, QuantityExpressionsAlignToTheBaseUnitOnTheRight) {
+    double base = 0;
+    int parts = 0;
+    EXPECT_TRUE(global().ValidateUOMQuantity("THREE", "2*0*5", parts, base));
+    EXPECT_EQ(parts, 3);
+    EXPECT_EQ(base, 2 * 144 + 5);
+    struct Case { const char* item; const char* text; double base; };
+    for (const Case& c : std::vector<Case>{{"THREE", "3*4", 3 * 12 + 4}, {"TWO", "3*4", 40}, {"THREE", "7", 7},
+                                           {"ONE", "7", 7}, {"TWO", "1.5*0", 18}, {"THREE", " 1 * 0 * 0 ", 144},
+                                           {"THREE", "0*0*0", 0}}) {
+        EXPECT_TRUE(Valid(c.item, c.text, &base)) << c.item << " " << c.text;
+        EXPECT_EQ(base, c.base) << c.item << " " << c.text;
+    }
+    EXPECT_EQ(global().ConvertToDisplayUOM("THREE", "1*1*1"), 157);
+    EXPECT_EQ(global().ConvertToDisplayUOM("THREE", "x"), 0);
+    for (const auto& [typed, info] : std::vector<std::pair<std::string, std::string>>{
+             {"2*0*5", "2*0*5"}, {"3*4", "0*3*4"}, {"5", "0*0*5"}, {"", "0*0*0"}})
+        EXPECT_EQ(global().GetUOMInfo(typed), info) << typed;
+}
+
+TEST_F(GlobalTest, EveryOtherQuantityTextIsRefusedWithoutAnError) {
+    for (const char* text : {"", "*", "2**5", "2*", "*5", "-1*2", "+1", "1*-0", "a*2", "2*b", "1e2", "2 3",
+                             "1.2.3", ".", "0x1", "1*2*3*4"})
+        EXPECT_FALSE(Valid("THREE", text)) << '"' << text << '"';
+    EXPECT_FALSE(Valid("ONE", "1*2")) << "more counts than the item has units";
+    EXPECT_FALSE(Valid("TWO", "1*2*3"));
+    EXPECT_FALSE(Valid("NOSUCH", "5")) << "unknown item";
+    EXPECT_EQ(transcript.ErrorCount(), 0);
+}
+
+TEST_F(GlobalTest, UnitDescriptionsTakeTheSalesUnitWhenNoneIsGiven) {
+    long uom = 0;
+    EXPECT_EQ(global().GetUOMDescription("THREE", uom), "Carton");
+    EXPECT_EQ(uom, 3);
+    uom = 2;
+    EXPECT_EQ(global().GetUOMDescription("THREE", uom), "Box");
+    EXPECT_EQ(uom, 2);
+    uom = 0;
+    EXPECT_EQ(global().GetUOMDescription("NOSUCH", uom), "");
+}
+
+constexpr int kEnter = 13, kBackspace = 8, kHome = 36, kEnd = 35, kUp = 38, kDown = 40;
+
+class KeyboardTest : public HostTest {
+protected:
+    KeyboardTest() { services().mainForm.CaptureChildObj(form); }
+
+    TestForm form{"frmDispatch"};
+    platform::TextBox billing{form, "txtBillingAddress"};
+    platform::TextBox shipping{form, "txtShippingAddress"};
+    platform::TextBox salesman{form, "txtSalesman"};
+};
+
+TEST_F(KeyboardTest, FocusMovesOnlyToAControlThatCanTakeIt) {
+    salesman.Visible = false;
+    global().SetFocusTo(salesman);
+    EXPECT_TRUE(form.moves.empty());
+    global().SetFocusTo(billing);
+    global().SetFocusTo(billing);
+    EXPECT_EQ(form.moves, std::vector<std::string>{"txtBillingAddress"});
+}
+
+TEST_F(KeyboardTest, TheSecondEnterInARowMovesOutOfAnAddress) {
+    global().SetFocusTo(billing);
+    billing.SetText("1 Mill Road");
+    auto enter = [&](int expectedKey) {
+        int key = kEnter;
+        int step = global().AddressEnterStep(key);
+        EXPECT_EQ(key, expectedKey);
+        return step;
+    };
+    EXPECT_EQ(enter(kEnter), 0) << "the first Enter is a new line in the box";
+    billing.SetText("1 Mill Road\nLeeds");  // typing breaks the row
+    EXPECT_EQ(enter(kEnter), 0);
+    EXPECT_EQ(enter(0), 1);
+    EXPECT_EQ(enter(kEnter), 0) << "a fresh row begins";
+    global().SetFocusTo(shipping);
+    EXPECT_EQ(enter(kEnter), 0) << "an Enter in another box starts its own row";
+}
+
+TEST_F(KeyboardTest, ListViewSelectionWalksWithTheKeys) {
+    platform::ListView list(form, "lstAvailable");
+    EXPECT_FALSE(global().MoveListSelection(list, kDown));
+    for (const char* batch : {"B1", "B2", "B3"}) list.Add(batch);
+    struct Step { int key; bool moved; int selected; };
+    for (const Step& s : std::vector<Step>{{kDown, true, 1}, {kUp, false, 1}, {kEnd, true, 3}, {kDown, false, 3},
+                                           {kHome, true, 1}, {65, false, 1}}) {
+        EXPECT_EQ(global().MoveListSelection(list, s.key), s.moved) << s.key;
+        EXPECT_EQ(list.SelectedIndex(), s.selected) << s.key;
+    }
+}
+
+TEST_F(KeyboardTest, ComboTypeAheadGoesOnFromWhatWasTyped) {
+    platform::ComboBox names(form, "cboCustomer");
+    for (const char* name : {"Alpha", "Beta", "Bravo"}) names.AddItem(name);
+    auto type = [&](int key) {
+        global().ComboAutoComplete(names, key);
+        EXPECT_EQ(key, 0);
+        return names.Text();
+    };
+    EXPECT_EQ(type('b'), "Beta");
+    EXPECT_EQ(type('r'), "Bravo");
+    EXPECT_EQ(type(kBackspace), "Beta");
+    EXPECT_EQ(type('x'), "bx");
+    EXPECT_EQ(names.ListIndex(), -1);
+}
+
+TEST_F(KeyboardTest, OpenFormsAreFoundByName) {
+    EXPECT_EQ(global().FindOpenForm("FRMDISPATCH", -1), &form);
+    EXPECT_EQ(global().FindOpenForm("frmCustomer", -1), nullptr);
+    services().mainForm.LeaveChildObj(form);
+    EXPECT_EQ(global().FindOpenForm("frmDispatch", -1), nullptr);
+}
+
+}  // namespace
+}  // namespace host_test

@@ -1,0 +1,185 @@
+// The plain host's dialogs, messages, labels, settings and printing errors.
+#include <fstream>
+#include <stdexcept>
+
+#include "host_fixture.h"
+#include "platform/convert.h"
+#include "platform/error_handler.h"
+
+namespace host_test {
+namespace {
+
+using host_services::msgbox::YesNoCancelQuestionSecond;
+using host_services::msgbox::YesNoQuestionSecond;
+
+class DialogsTest : public HostTest {
+protected:
+    host_services::HostMessages& messages() { return services().messages; }
+    host_services::HostTools& tools() { return services().tools; }
+};
+
+TEST_F(DialogsTest, MessageBoxesTakeQueuedAnswersInOrderThenTheirDefaults) {
+    answers.Queue("AskMessage", {"7"});
+    answers.Queue("AskMessage", {"2"});
+    EXPECT_EQ(messages().AskMessage("Print?", YesNoQuestionSecond), 7);
+    EXPECT_EQ(messages().AskMessage("Print now?", YesNoCancelQuestionSecond), 2);
+    EXPECT_EQ(messages().AskMessage("Again?", YesNoQuestionSecond), 6);
+    EXPECT_EQ(messages().AskMessage("Again?", YesNoCancelQuestionSecond), 6);
+    EXPECT_EQ(messages().AskMessage("Invalid Password", 64), 1);
+    EXPECT_EQ(messages().AskMessage("Continue?", 1), 1);
+    EXPECT_EQ(Lines(), (std::vector<std::string>{
+                           "message 292 \"Print?\" -> 7",
+                           "message 291 \"Print now?\" -> 2",
+                           "message 292 \"Again?\" -> 6 (default)",
+                           "message 291 \"Again?\" -> 6 (default)",
+                           "message 64 \"Invalid Password\" -> 1 (default)",
+                           "message 1 \"Continue?\" -> 1 (default)"}));
+    EXPECT_EQ(transcript.TakeMessages().size(), 6u);
+}
+
+TEST_F(DialogsTest, EachKindOfDialogHasItsOwnQueueAndItsDefault) {
+    answers.Queue("InputPassword", {"s3cret"});
+    EXPECT_EQ(messages().AskMessage("Sure?", YesNoQuestionSecond), 6) << "a password is no answer to a question";
+    std::string typed;
+    EXPECT_TRUE(tools().InputPassword("Password?", "Credit Limit Exceeded", typed));
+    EXPECT_EQ(typed, "s3cret");
+    EXPECT_EQ(Lines().back(), "InputPassword \"Password?\" \"Credit Limit Exceeded\" -> \"s3cret\"");
+
+    // A cancelled password box gives a tab.
+    answers.Queue("InputBoxE", {"cancel"});
+    EXPECT_FALSE(services().mainForm.InputBoxE("Password?", "Credit Limit Exceeded", typed));
+    EXPECT_EQ(typed, "\t");
+    EXPECT_FALSE(tools().InputPassword("Password?", "Credit Limit Exceeded", typed));
+    EXPECT_EQ(typed, "\t");
+    EXPECT_EQ(Lines().back(), "InputPassword \"Password?\" \"Credit Limit Exceeded\" -> cancel (default)");
+    answers.Queue("ConfirmSaveOnExit", {"false"});
+    EXPECT_FALSE(messages().ConfirmSaveOnExit(true));
+    EXPECT_TRUE(messages().ConfirmSaveOnExit(true));
+    EXPECT_NE(Lines().back().find("-> true (default)"), std::string::npos);
+}
+
+TEST_F(DialogsTest, TheMemoDialogChangesTheMemosOnlyWhenAcceptedAndEditable) {
+    std::string m1 = "a", m2 = "b", m3 = "c";
+    EXPECT_FALSE(tools().ShowMemoDialog(m1, m2, m3, false, 2));
+    answers.Queue("ShowMemoDialog", {"x", "y", "z", "ok"});
+    EXPECT_TRUE(tools().ShowMemoDialog(m1, m2, m3, true, 2));
+    EXPECT_EQ(m1 + m2 + m3, "abc") << "a note on view keeps its memos";
+    EXPECT_EQ(Lines().back(), "ShowMemoDialog \"a\" \"b\" \"c\" read-only -> ok");
+}
+
+TEST_F(DialogsTest, AnswersNoDialogCouldGiveAreRefused) {
+    const std::vector<std::pair<std::string, std::vector<std::string>>> wrong = {
+        {"AskMessage", {"9"}},          {"AskMessage", {"yes"}},
+        {"AskMessage", {"6", "7"}},     {"ConfirmSaveOnExit", {"maybe"}},
+        {"SelectScheme", {"four"}},     {"ShowMemoDialog", {"a", "b", "ok"}},
+        {"ShowMemoDialog", {"a", "b", "c", "done"}}, {"InputPassword", {}},
+        {"NoSuchDialog", {"1"}}};
+    for (const auto& [dialog, values] : wrong) {
+        EXPECT_FALSE(host::DialogAnswers::Problem(dialog, values).empty()) << dialog;
+        EXPECT_THROW(answers.Queue(dialog, values), std::invalid_argument) << dialog;
+        EXPECT_FALSE(answers.Pending(dialog)) << dialog;
+    }
+}
+
+TEST_F(DialogsTest, TheSchemesDialogSaysWhatItWasGiven) {
+    tools().ShowItemSchemes("SOAP1", platform::DateTime(2026, 11, 22, 9, 0, 0), "C1", {12, 340.5}, 0);
+    EXPECT_EQ(Lines().back(), "ShowItemSchemes \"SOAP1\" 2026-11-22 \"C1\" [12,340.5] 0 -> ok");
+}
+
+TEST_F(DialogsTest, LabelsComeFromTheTableWithTheBaseTextAsFallback) {
+    Sql(R"(INSERT INTO Labels (BaseText, LabelKind, Caption) VALUES
+             ('Serial No: ', 'Label', 'Numero: '), ('Customer', 'Column', 'Client'),
+             ('ALL CUSTOMERS', 'Label', 'TOUS LES CLIENTS'), ('Untranslated', 'Label', ''))");
+    EXPECT_EQ(messages().GetLabel("Serial No: "), "Numero: ");
+    EXPECT_EQ(messages().GetLabel("serial no: ", "label"), "Numero: ") << "keys match without regard to case";
+    EXPECT_EQ(messages().GetLabel("Customer"), "Customer") << "a caption of another kind does not serve";
+    EXPECT_EQ(messages().GetLabel("Customer", "Column"), "Client");
+    EXPECT_EQ(messages().GetLabel("Untranslated"), "Untranslated");
+    EXPECT_EQ(messages().GetLabel("Select Beat"), "Select Beat");
+    EXPECT_EQ(messages().GetAllCustomersText(), "TOUS LES CLIENTS");
+    EXPECT_EQ(messages().GetBaseLabel("Numero: "), "Serial No: ");
+    EXPECT_EQ(messages().GetBaseLabel("Qty"), "Qty");
+    int reads = 0;
+    for (const auto& statement : Statements()) reads += statement.find("From Labels") != std::string::npos;
+    EXPECT_EQ(reads, 1) << "the table is read once";
+}
+
+TEST_F(DialogsTest, NumberedMessagesStatusLinesAndErrorsGoToTheTranscript) {
+    Sql("INSERT INTO ErrorMessages (ErrorID, Message) VALUES (500, 'Item {0} of {1}')");
+    global().ShowNumberedMessage(55, 1, {});
+    global().ShowNumberedMessage(999, 1, {});
+    global().ShowNumberedMessage(500, 1, {"A1", "B2"});
+    EXPECT_EQ(Lines(), (std::vector<std::string>{
+                           "numbered 55", "message 64 \"Select a valid Salesman.\" -> 1",
+                           "numbered 999", "message 64 \"Message 999 not found\" -> 1",
+                           "numbered 500", "message 64 \"Item A1 of B2\" -> 1"}));
+    EXPECT_EQ(transcript.TakeNumbered(), (std::vector<long>{55, 999, 500}));
+    EXPECT_TRUE(transcript.TakeNumbered().empty());
+
+    global().ShowStatus("Select an existing Customer.", 1);
+    ASSERT_NE(transcript.LastStatus(), nullptr);
+    EXPECT_EQ(transcript.LastStatus()->text, "Select an existing Customer.");
+    EXPECT_EQ(transcript.LastStatus()->flag, 1);
+    // The screen's handler reports through the host's error log.
+    platform::RunHandled(global(), "Dispatch: GetDetails - ",
+                         [] { throw platform::RuntimeError(platform::err::InvalidCall); });
+    EXPECT_EQ(Lines().back(), "error 5 Dispatch: GetDetails - Invalid procedure call or argument");
+    EXPECT_EQ(transcript.ErrorCount(), 1);
+}
+
+TEST(TranscriptTest, MessageTextsAreQuotedAsScriptsWriteThem) {
+    host::Transcript transcript;
+    std::vector<std::string> printed;
+    transcript.onLine = [&](const std::string& line) { printed.push_back(line); };
+    transcript.Message(64, "Say \"hi\"\tC:\\x", "1");
+    EXPECT_EQ(printed, std::vector<std::string>{"message 64 \"Say \\\"hi\\\"\\tC:\\\\x\" -> 1"});
+    EXPECT_EQ(transcript.TakeMessages(), std::vector<std::string>{"Say \"hi\"\tC:\\x"});
+    EXPECT_TRUE(transcript.TakeMessages().empty());
+}
+
+TEST_F(DialogsTest, ASettingTakesNamesInAnyCaseAndRefusesABadValue) {
+    settings.Set("GetOCGEnabled", "true");
+    settings.Set("getprintonsavemode", "0");
+    EXPECT_TRUE(global().GetOCGEnabled());
+    EXPECT_EQ(global().GetPrintOnSaveMode(), 0);
+
+    EXPECT_THROW(settings.Set("GetOCGEnabled", "maybe"), std::invalid_argument);
+    EXPECT_THROW(settings.Set("GetPrintOnSaveMode", "two"), std::invalid_argument);
+    EXPECT_THROW(settings.Set("GetOpeningDate", "01/04/2020"), std::invalid_argument);
+    EXPECT_THROW(settings.Set("GetOCGEnabld", "false"), std::invalid_argument);
+    EXPECT_TRUE(global().GetOCGEnabled()) << "the old value is kept";
+    EXPECT_EQ(global().GetPrintOnSaveMode(), 0);
+    EXPECT_NE(host::Settings::Problem("GetOCGEnabld", "true").find("unknown setting"), std::string::npos);
+}
+
+TEST_F(DialogsTest, ASettingsFileIsTakenWholeOrNotAtAll) {
+    const std::string good = test_support::ScratchPath("host", ".ini"), bad = good + ".bad";
+    std::ofstream(good) << "[Settings]\nGetPrintOnSaveMode = 1\nAdministratorPassword = s3cret\n"
+                                 "[Other]\nGetOCGEnabled = true\n";
+    std::ofstream(bad) << "[Settings]\nGetPrinterService = 1\nGetCloseDayMode = often\n";
+    EXPECT_TRUE(settings.LoadFile(good));
+    EXPECT_EQ(global().GetPrintOnSaveMode(), 1);
+    EXPECT_FALSE(global().GetOCGEnabled()) << "only section [Settings] is read";
+    EXPECT_FALSE(settings.LoadFile(bad));
+    EXPECT_NE(settings.LoadError().find("line 3"), std::string::npos) << settings.LoadError();
+    EXPECT_EQ(global().GetPrinterService(), 0) << "the good line before the bad one is not taken either";
+    EXPECT_FALSE(settings.LoadFile(good + ".missing"));
+    EXPECT_EQ(global().GetPrintOnSaveMode(), 1);
+}
+
+TEST_F(DialogsTest, PrintingErrorsOfTheServerAndTheFileReachTheCaller) {
+    EXPECT_THROW(tools().ShowPrintDialog("", "sp_no_such", "", "15", "Dispatch", 0, 0), platform::RuntimeError);
+    const std::string inTheWay = test_support::ScratchPath("host", "-file");
+    std::ofstream(inTheWay) << "in the way";
+    host->SetOutputFolder(inTheWay);
+    try {
+        tools().PrintDirect("", "", "", 0, "Dispatch", 15);
+        FAIL() << "a file stands where the folder should be";
+    } catch (const platform::RuntimeError& error) {
+        EXPECT_EQ(error.Number(), 75);
+    }
+    EXPECT_TRUE(transcript.Lines().empty());
+}
+
+}  // namespace
+}  // namespace host_test

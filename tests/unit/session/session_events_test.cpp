@@ -1,7 +1,7 @@
 // The events a verb raises on the screen, and their order.
 #include "platform/convert.h"
 #include "session/today.h"
-#include "session_fixture.h"
+#include "fake_screen.h"
 
 namespace session::testing {
 namespace {

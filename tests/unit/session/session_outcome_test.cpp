@@ -1,7 +1,7 @@
 // Exit statuses, what show prints, and how a session reports a wrong script or a failed check.
 #include <fmt/format.h>
 
-#include "session_fixture.h"
+#include "fake_screen.h"
 
 namespace session::testing {
 namespace {

@@ -17,10 +17,8 @@ FakeScreen::FakeScreen(host_services::HostServices services) : services_(std::mo
     cmdSave.Caption = "&Save";
 
     lstSO.CheckBoxes = true;
-    auto& first = lstSO.Add("Acme Traders");
-    first.SetSubItem(1, "SC1");
-    auto& second = lstSO.Add("");
-    second.SetSubItem(1, "SC2");
+    lstSO.Add("Acme Traders").SetSubItem(1, "SC1");
+    lstSO.Add("").SetSubItem(1, "SC2");
     lstUOM.AddItem("Each");
     lstUOM.AddItem("Box");
     cboType.AddItem("Invoice");

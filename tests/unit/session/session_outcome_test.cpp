@@ -1,0 +1,154 @@
+// Exit statuses, what show prints, and how a session reports a wrong script or a failed check.
+#include <fmt/format.h>
+
+#include "fake_screen.h"
+
+namespace session::testing {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+TEST_F(SessionTest, ScriptErrorsStopAtTheirLineWithStatusTwo) {
+    struct Case {
+        std::string script, error;
+    };
+    for (const auto& c : std::vector<Case>{
+             {kOpen + "click txtNowhere", "line 3: the screen has no control txtNowhere"},
+             {kOpen + "click cmdClose(2)", "line 3: the screen has no control cmdClose(2)"},
+             {kOpen + "key txtCustomer enter", "line 3: the key code must be a whole number, not \"enter\""},
+             {kOpen + "type txtCustomer", "line 3: type takes a control and the text in quotes"},
+             {kOpen + "tick cmdSave 1", "line 3: cmdSave is a CommandButton; tick needs a list view or a list box"},
+             {kOpen + "expect text cmdSave \"x\"", "line 3: cmdSave has no text"},
+             {kOpen + "expect colour txtCustomer red", "line 3: "},
+             {kOpen + "show field szNothing", "line 3: the screen has no field szNothing"},
+             {kOpen + "call NoSuchRoutine", "line 3: the screen has no routine NoSuchRoutine"},
+             {kOpen + "call Strict 1 2", "line 3: Strict: takes one argument"},
+             {kOpen + "answer AskMessage 9", "line 3: "},
+             {kOpen + "answer Nonsense 1", "line 3: "},
+             {kOpen + "setting NoSuchSetting 1", "line 3: "},
+             {kOpen + "setting GetOCGEnabled maybe", "line 3: "},
+             {kOpen + "open dispatch", "line 3: open takes dispatch MODE [SERVERDATE [ALERTDATE]]"},
+             {kOpen + "grid walk 1 2", "line 3: "},
+             {"database empty\nclick cmdSave", "line 2: no screen is open: `open` one first\n"},
+             {"sql \"SELECT 1\"\ndatabase empty", "line 2: the database is in use already"},
+             {"database empty\ndatabase demo", "line 2: the session has chosen its database already"},
+             {"database /nonexistent/dispatch.db", "line 1: no database file /nonexistent/dispatch.db"},
+             {"database empty\nsql \"SELEC 1\"", "line 2: the statement failed: "},
+         }) {
+        SCOPED_TRACE(c.script);
+        auto outcome = Run(c.script + "\nshow rows\n");
+        EXPECT_EQ(outcome.status, 2);
+        EXPECT_THAT(outcome.err, ::testing::StartsWith(c.error));
+        EXPECT_THAT(outcome.out, Not(HasSubstr("FAIL")));
+        EXPECT_THAT(outcome.out, Not(HasSubstr("> show rows")));
+    }
+}
+
+// One long script: every failing line is reported with what was found, the lines
+// after it still run, and the lines expected to hold raise no failure.
+TEST_F(SessionTest, FailedChecksAndRefusedActionsAreReportedAndTheScriptGoesOn) {
+    struct Step {
+        std::string line, failure;
+    };
+    const std::vector<Step> steps{
+        {"expect text txtCustomer \"X\"", "was \"\""},
+        {"expect focus txtCustomer", ""},
+        {"type txtCustomer \"Y\"", ""},
+        {"expect text txtCustomer \"Y\"", ""},
+        {"expect rows 5", "was 2"},
+        {"type txtInFrame \"x\"", "txtInFrame lies in Frame3, which is disabled"},
+        {"type txtLocked \"x\"", "txtLocked is locked"},
+        {"tick lstSO 3", "lstSO has rows 1 to 2"},
+        {"pick 1", "no type-ahead list is open"},
+        {"grid goto 9 1", "the grid has rows 1 to 2"},
+        {"expect cell 0 1 \"Code\"", ""},
+        {"expect cell 2 7 \"hidden\"", ""},
+        {"expect cell 3 1 \"\"", "the grid has rows 0 to 2"},
+        {"expect cell 1 9 \"\"", "the grid has columns 0 to 8"},
+        {"expect result \"\"", "no routine call has run to its end"},
+        {"call Broken", "run-time error 91 not handled by the screen: Object"},
+        {"call Strict late", "run-time error 450 not handled by the screen"},
+        {"expect items lstSO \"Acme Traders|SC2\"", ""},
+        {"expect items cboType \"Invoice|Note\"", ""},
+        {"expect caption cmdSave \"&Save\"", ""},
+        {"expect tag txtCustomer \"\"", ""},
+        {"expect visible cmdSave true", ""},
+        {"expect enabled Frame3 false", ""},
+        {"expect enabled Frame3 true", "was false"},
+        {"expect field szDocNumbers \"SC1,SC2\"", ""},
+        {"expect list \"\"", ""},
+        {"call OCGEnabled", ""},
+        {"expect result \"False\"", ""},
+        {"setting GetOCGEnabled true", ""},
+        {"call OCGEnabled", ""},
+        {"expect result \"True\"", ""},
+        {"call Report", ""},
+        {"expect status \"Select an existing Customer.\"", ""},
+        {"expect errors 1", ""},
+        {"call Ask", ""},
+        {"expect message \"Save now?\"", ""},
+        // Each message is matched once: the second check finds none since the first.
+        {"expect message \"Save now?\"", "no message was shown"},
+        {"expect numbered 55", "no numbered message was shown"},
+        {"sql \"CREATE TABLE t(a, b)\"", ""},
+        {"sql \"INSERT INTO t VALUES (1, 'x'), (2, 'y')\"", ""},
+        {"expect sql \"SELECT b FROM t\" \"x\"", "was \"x;y\""},
+        {"expect focus cmdSave", "focus was on txtLocked"},
+        {"type txtCustomer stay", ""},
+        {"close", ""},
+        {"click cmdSave", ""},
+        {"type txtCustomer \"\"", ""},
+        {"close", ""},
+        {"click cmdSave", "the screen has been closed"},
+        {"open dispatch 3", ""},
+        {"open dispatch 1", "a screen is open already"},
+    };
+    std::string script = kOpen;
+    for (const auto& step : steps) script += step.line + "\n";
+    auto outcome = Run(script);
+    EXPECT_EQ(outcome.status, 1);
+    std::size_t failures = 0;
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        if (steps[i].failure.empty()) continue;
+        ++failures;
+        EXPECT_THAT(outcome.out, HasSubstr(fmt::format("\nFAIL line {}: {}: {}", i + 3, steps[i].line, steps[i].failure)));
+    }
+    EXPECT_EQ(CountOf(outcome.out, "FAIL line"), failures) << outcome.out;
+    EXPECT_EQ(outcome.err, fmt::format("{} checks failed\n", failures));
+    EXPECT_THAT(outcome.out, HasLine("error 5 Dispatch: Report - Invalid procedure call or argument"));
+    EXPECT_THAT(outcome.out, HasLine("status 1 Select an existing Customer."));
+    EXPECT_THAT(outcome.out, HasLine("= close cancelled: the screen stays open"));
+    EXPECT_THAT(outcome.out, HasLine("= screen closed"));
+    EXPECT_EQ(openings.screens.size(), 2u);
+    EXPECT_EQ(openings.mode, 3);
+    EXPECT_EQ(openings.screens[0]->txtLocked.Text(), "");
+    const auto& events = openings.screens[0]->events;
+    EXPECT_EQ(std::count(events.begin(), events.end(), "cmdSave.Click"), 1);
+}
+
+TEST_F(SessionTest, ControlDisabledWhileItHasFocusTakesNoInput) {
+    openings.arrange = [](FakeScreen& screen) {
+        screen.txtCustomer.Change.Connect([&screen] { screen.txtCustomer.Enabled = false; });
+    };
+    auto outcome = Run(kOpen + "type txtCustomer \"a\"\ntype txtCustomer \"b\"\n");
+    EXPECT_THAT(outcome.out, HasLine("FAIL line 4: type txtCustomer \"b\": txtCustomer is disabled"));
+    EXPECT_EQ(Screen().txtCustomer.Text(), "a");
+}
+
+TEST_F(SessionTest, ShowPrintsTheGridAndAControlsStateAndEntries) {
+    auto outcome = Run(kOpen + "show grid\nshow grid 1 7\nshow rows\ntick lstSO 1\nshow lstSO\nshow cmdSave\n"
+                               "show field szDocNumbers\nshow focus\nshow status\n");
+    EXPECT_EQ(outcome.status, 0) << outcome.out << outcome.err;
+    EXPECT_EQ(outcome.err, "");
+    EXPECT_THAT(outcome.out, HasSubstr("= row 0: Code|Name||||\n= row 1: A100|Soap||||\n= row 2: B200|||||\n"));
+    EXPECT_THAT(outcome.out, HasSubstr("= row 0: Code|\n= row 1: A100|\n= row 2: B200|hidden\n"));
+    for (const char* line : {"= rows 2", "= lstSO ListView tag \"\" visible true enabled true",
+                             "=   1 [x] \"Acme Traders\" | \"SC1\"", "=   2 [ ] \"\" | \"SC2\"",
+                             "= cmdSave CommandButton caption \"&Save\" tag \"\" visible true enabled true",
+                             "= field szDocNumbers \"SC1,SC2\"", "= focus lstSO", "= status none"})
+        EXPECT_THAT(outcome.out, HasLine(line));
+}
+
+}  // namespace
+}  // namespace session::testing

@@ -62,15 +62,7 @@ TEST_F(Procedures, AWriterAnswersWithTheRowCountFirst) {
 }
 
 TEST_F(Procedures, UnknownNamesAndBadArgumentsAreTheServersErrors) {
-    auto description = [&](const std::function<void()>& call) {
-        try {
-            call();
-        } catch (const platform::RuntimeError& error) {
-            EXPECT_EQ(error.Number(), platform::err::DatabaseError);
-            return error.Description();
-        }
-        return std::string("(no error)");
-    };
+    const auto description = testkit::Refusal;
     auto take = [&](const platform::ParameterList& parameters) {
         return description([&] { connection_->RunProcedure("sp_Take_Stock", parameters); });
     };

@@ -49,13 +49,7 @@ platform::Value SaveDatabase::Answer(const std::string& name, const platform::Pa
 }
 
 std::string SaveDatabase::Refusal(const std::string& name, const platform::ParameterList& parameters) {
-    try {
-        Call(name, parameters);
-    } catch (const platform::RuntimeError& error) {
-        EXPECT_EQ(error.Number(), platform::err::DatabaseError);
-        return error.Description();
-    }
-    return "(no error)";
+    return testkit::Refusal([&] { Call(name, parameters); });
 }
 
 std::string SaveDatabase::Text(const std::string& sql) { return testkit::RowsText(db_->ExecuteNative(sql)); }

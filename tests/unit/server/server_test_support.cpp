@@ -2,7 +2,10 @@
 
 #include <ctime>
 
+#include <gtest/gtest.h>
+
 #include "platform/convert.h"
+#include "platform/runtime_error.h"
 #include "server/database_files.h"
 #include "server/sqlite_values.h"
 #include "support/scratch_files.h"
@@ -113,6 +116,16 @@ std::string RowsText(const platform::ResultSet& result) {
 }
 
 std::string RowsText(const platform::RecordsetPtr& recordset) { return RowsText(recordset->Current()); }
+
+std::string Refusal(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const platform::RuntimeError& error) {
+        EXPECT_EQ(error.Number(), platform::err::DatabaseError);
+        return error.Description();
+    }
+    return "(no error)";
+}
 
 platform::Date LocalNow() {
     std::time_t now = std::time(nullptr);

@@ -111,21 +111,5 @@ TEST(DatabaseFiles, ACopyIsAConsistentPrivateSnapshot) {
     EXPECT_FALSE(std::filesystem::exists(folder.File("copy2.db")));
 }
 
-TEST(DatabaseFiles, TheApplicationsSchemaAndDemoDataMakeAnOpenableDatabase) {
-    testkit::ScratchFolder folder;
-    CreateDatabase(folder.File("empty.db"), false);
-    CreateDatabase(folder.File("demo.db"), true);
-    auto empty = OpenEmbedded(folder.File("empty.db"));
-    auto demo = OpenEmbedded(folder.File("demo.db"));
-    EXPECT_EQ(RowsText(empty->ExecuteNative("SELECT count(*) FROM Items")), "0");
-    EXPECT_NE(RowsText(demo->ExecuteNative("SELECT count(*) FROM Items")), "0");
-    EXPECT_EQ(RowsText(demo->ExecuteNative("PRAGMA foreign_key_check")), "");
-    // The server objects of the default registry answer on it through the dialect.
-    EXPECT_NE(RowsText(demo->Execute("Select Distinct BeatID,BeatName From dbo.Fn_Get_MappedSalemanBeatAndCustomer_QAX(0,0,'')"
-                                     " Where IsNull(BeatName,'') <> '' Order By BeatName")),
-              "");
-    EXPECT_NE(testkit::Refusal([&] { CreateDatabase(folder.File("demo.db"), true); }).find("exists already"), std::string::npos);
-}
-
 }  // namespace
 }  // namespace server

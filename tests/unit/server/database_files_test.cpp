@@ -21,16 +21,6 @@ std::string Contents(const std::string& path) {
 
 void Write(const std::string& path, const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
 
-std::string Refusal(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const platform::RuntimeError& error) {
-        EXPECT_EQ(error.Number(), platform::err::DatabaseError);
-        return error.Description();
-    }
-    return "(no error)";
-}
-
 TEST(DatabaseFiles, AMadeDatabaseOpensWithItsSettings) {
     testkit::ScratchFolder folder;
     const std::string path = folder.File("made.db");
@@ -46,13 +36,13 @@ TEST(DatabaseFiles, AMadeDatabaseOpensWithItsSettings) {
 
 TEST(DatabaseFiles, RefusesWhatIsNotOursAndLeavesItAlone) {
     testkit::ScratchFolder folder;
-    EXPECT_EQ(Refusal([&] { OpenDatabase(folder.File("missing.db")); }),
+    EXPECT_EQ(testkit::Refusal([&] { OpenDatabase(folder.File("missing.db")); }),
               "The database file '" + folder.File("missing.db") + "' does not exist.");
     EXPECT_FALSE(std::filesystem::exists(folder.File("missing.db")));
 
     const std::string text = folder.File("notes.txt");
     Write(text, "These are not the rows you are looking for.\n");
-    EXPECT_NE(Refusal([&] { OpenDatabase(text); }).find("is not a dispatch database"), std::string::npos);
+    EXPECT_NE(testkit::Refusal([&] { OpenDatabase(text); }).find("is not a dispatch database"), std::string::npos);
     EXPECT_EQ(Contents(text), "These are not the rows you are looking for.\n");
 
     const std::string foreign = folder.File("foreign.db");
@@ -63,26 +53,26 @@ TEST(DatabaseFiles, RefusesWhatIsNotOursAndLeavesItAlone) {
         other.ExecuteScript("CREATE TABLE SchemaInfo (Name TEXT, Value TEXT); "
                             "INSERT INTO SchemaInfo VALUES ('Application', 'Payroll');");
     }
-    EXPECT_EQ(Refusal([&] { OpenDatabase(foreign); }), "'" + foreign + "' is not a dispatch database.");
+    EXPECT_EQ(testkit::Refusal([&] { OpenDatabase(foreign); }), "'" + foreign + "' is not a dispatch database.");
 }
 
 TEST(DatabaseFiles, MakingRefusesAnExistingFileAndCleansUpAFailure) {
     testkit::ScratchFolder folder;
     const std::string existing = folder.File("existing.db");
     Write(existing, "keep me");
-    EXPECT_NE(Refusal([&] { CreateDatabaseFromScripts(existing, {testkit::SmallSchema()}); }).find("exists already"),
+    EXPECT_NE(testkit::Refusal([&] { CreateDatabaseFromScripts(existing, {testkit::SmallSchema()}); }).find("exists already"),
               std::string::npos);
     EXPECT_EQ(Contents(existing), "keep me");
 
     const std::string broken = folder.File("broken.db");
-    EXPECT_NE(Refusal([&] { CreateDatabaseFromScripts(broken, {testkit::SmallSchema(), "CREATE TABLE Customer (x);"}); })
+    EXPECT_NE(testkit::Refusal([&] { CreateDatabaseFromScripts(broken, {testkit::SmallSchema(), "CREATE TABLE Customer (x);"}); })
                   .find("already exists"),
               std::string::npos);
     EXPECT_FALSE(std::filesystem::exists(broken));
     EXPECT_FALSE(std::filesystem::exists(broken + "-wal"));
 
     const std::string anonymous = folder.File("anonymous.db");
-    EXPECT_NE(Refusal([&] { CreateDatabaseFromScripts(anonymous, {"CREATE TABLE t (a);"}); }).find("SchemaInfo"),
+    EXPECT_NE(testkit::Refusal([&] { CreateDatabaseFromScripts(anonymous, {"CREATE TABLE t (a);"}); }).find("SchemaInfo"),
               std::string::npos);
     EXPECT_FALSE(std::filesystem::exists(anonymous));
 
@@ -114,27 +104,11 @@ TEST(DatabaseFiles, ACopyIsAConsistentPrivateSnapshot) {
     copy->Execute("Delete From Customer Where CustomerID = 'C002'");
     EXPECT_EQ(RowsText(writer->ExecuteNative("SELECT count(*) FROM Customer")), "2");
 
-    EXPECT_NE(Refusal([&] { CopyDatabase(source, folder.File("copy.db")); }).find("exists already"), std::string::npos);
+    EXPECT_NE(testkit::Refusal([&] { CopyDatabase(source, folder.File("copy.db")); }).find("exists already"), std::string::npos);
     Write(folder.File("plain.txt"), "text");
-    EXPECT_NE(Refusal([&] { CopyDatabase(folder.File("plain.txt"), folder.File("copy2.db")); }).find("not a dispatch database"),
+    EXPECT_NE(testkit::Refusal([&] { CopyDatabase(folder.File("plain.txt"), folder.File("copy2.db")); }).find("not a dispatch database"),
               std::string::npos);
     EXPECT_FALSE(std::filesystem::exists(folder.File("copy2.db")));
-}
-
-TEST(DatabaseFiles, TheApplicationsSchemaAndDemoDataMakeAnOpenableDatabase) {
-    testkit::ScratchFolder folder;
-    CreateDatabase(folder.File("empty.db"), false);
-    CreateDatabase(folder.File("demo.db"), true);
-    auto empty = OpenEmbedded(folder.File("empty.db"));
-    auto demo = OpenEmbedded(folder.File("demo.db"));
-    EXPECT_EQ(RowsText(empty->ExecuteNative("SELECT count(*) FROM Items")), "0");
-    EXPECT_NE(RowsText(demo->ExecuteNative("SELECT count(*) FROM Items")), "0");
-    EXPECT_EQ(RowsText(demo->ExecuteNative("PRAGMA foreign_key_check")), "");
-    // The server objects of the default registry answer on it through the dialect.
-    EXPECT_NE(RowsText(demo->Execute("Select Distinct BeatID,BeatName From dbo.Fn_Get_MappedSalemanBeatAndCustomer_QAX(0,0,'')"
-                                     " Where IsNull(BeatName,'') <> '' Order By BeatName")),
-              "");
-    EXPECT_NE(Refusal([&] { CreateDatabase(folder.File("demo.db"), true); }).find("exists already"), std::string::npos);
 }
 
 }  // namespace

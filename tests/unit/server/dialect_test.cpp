@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/runtime_error.h"
 #include "server/dialect.h"
+#include "server_test_support.h"
 
 namespace server {
 namespace {
@@ -12,13 +12,7 @@ namespace {
 using ::testing::ElementsAre;
 
 std::string ErrorOf(const std::string& sql) {
-    try {
-        TranslateStatement(sql);
-    } catch (const platform::RuntimeError& error) {
-        EXPECT_EQ(error.Number(), platform::err::DatabaseError);
-        return error.Description();
-    }
-    return "(translated: " + TranslateStatement(sql) + ")";
+    return testkit::Refusal([&] { TranslateStatement(sql); });
 }
 
 TEST(Dialect, RewritesTheServersNamesAndFunctions) {

@@ -52,22 +52,6 @@ TEST_F(Procedures, AreFoundWithoutRegardToCaseOrOwner) {
     EXPECT_EQ(registry_.FindProcedure("other.sp_get_CustomerName"), nullptr);
 }
 
-TEST_F(Procedures, AnUnknownOneIsTheServersError) {
-    try {
-        connection_->RunProcedure("dbo.sp_no_such_thing", {});
-        FAIL();
-    } catch (const platform::RuntimeError& error) {
-        EXPECT_EQ(error.Number(), platform::err::DatabaseError);
-        EXPECT_EQ(error.Description(), "Could not find stored procedure 'dbo.sp_no_such_thing'.");
-    }
-    try {
-        connection_->Execute("Select * From dbo.Fn_No_Such(1)");
-        FAIL();
-    } catch (const platform::RuntimeError& error) {
-        EXPECT_EQ(error.Description(), "Invalid object name 'Fn_No_Such'.");
-    }
-}
-
 TEST_F(Procedures, AWriterAnswersWithTheRowCountFirst) {
     auto recordset = connection_->RunProcedure("sp_Take_Stock", {{7, platform::adtype::Integer}, {"12.5", platform::adtype::Double}});
     EXPECT_EQ(recordset->FieldCount(), 0);
@@ -77,19 +61,19 @@ TEST_F(Procedures, AWriterAnswersWithTheRowCountFirst) {
     EXPECT_FALSE(recordset->NextRecordset());
 }
 
-TEST_F(Procedures, ArgumentErrorsAreTheServers) {
-    auto description = [&](const platform::ParameterList& parameters) {
-        try {
-            connection_->RunProcedure("sp_Take_Stock", parameters);
-        } catch (const platform::RuntimeError& error) {
-            return error.Description();
-        }
-        return std::string("(no error)");
+TEST_F(Procedures, UnknownNamesAndBadArgumentsAreTheServersErrors) {
+    const auto description = testkit::Refusal;
+    auto take = [&](const platform::ParameterList& parameters) {
+        return description([&] { connection_->RunProcedure("sp_Take_Stock", parameters); });
     };
-    EXPECT_EQ(description({{7, platform::adtype::Integer}}),
+    EXPECT_EQ(description([&] { connection_->RunProcedure("dbo.sp_no_such_thing", {}); }),
+              "Could not find stored procedure 'dbo.sp_no_such_thing'.");
+    EXPECT_EQ(description([&] { connection_->Execute("Select * From dbo.Fn_No_Such(1)"); }),
+              "Invalid object name 'Fn_No_Such'.");
+    EXPECT_EQ(take({{7, platform::adtype::Integer}}),
               "Procedure or function 'sp_Take_Stock' expects parameter '@Quantity', which was not supplied.");
-    EXPECT_EQ(description({{7, 3}, {1, 5}, {1, 5}}), "Procedure or function sp_Take_Stock has too many arguments.");
-    EXPECT_EQ(description({{"7b", platform::adtype::VarChar}, {1, 5}}),
+    EXPECT_EQ(take({{7, 3}, {1, 5}, {1, 5}}), "Procedure or function sp_Take_Stock has too many arguments.");
+    EXPECT_EQ(take({{"7b", platform::adtype::VarChar}, {1, 5}}),
               "Conversion failed when converting the varchar value '7b' to data type int.");
     // Nothing was taken by the refused calls.
     EXPECT_EQ(RowsText(connection_->ExecuteNative("SELECT Quantity FROM Batch_Products WHERE Batch_Code = 7")), "100r");
@@ -108,29 +92,17 @@ TEST_F(Procedures, ContextHelpers) {
     EXPECT_THROW(context.Query("SELECT 1; SELECT 2"), platform::RuntimeError);
 }
 
-TEST(ProcedureRegistry, RefusesANameTwice) {
-    ProcedureRegistry registry;
-    registry.RegisterProcedure("sp_x", [](ProcedureContext&, const platform::ParameterList&) {
-        return std::vector<platform::ResultSet>{};
-    });
-    EXPECT_THROW(registry.RegisterProcedure("DBO.SP_X", [](ProcedureContext&, const platform::ParameterList&) {
-        return std::vector<platform::ResultSet>{};
-    }),
-                 std::logic_error);
-    registry.RegisterTableFunction("sp_x", [](ProcedureContext&, const std::vector<platform::Value>&) {
-        return platform::ResultSet{};
-    });
-    EXPECT_EQ(registry.ProcedureNames(), std::vector<std::string>{"sp_x"});
-    EXPECT_EQ(registry.TableFunctionNames(), std::vector<std::string>{"sp_x"});
-}
-
-TEST(ProcedureRegistry, TheDefaultOneServesConnectionsMadeWithoutOne) {
-    DefaultRegistry().RegisterProcedure("sp_test_default_registry", [](ProcedureContext& context, const platform::ParameterList&) {
+TEST(ProcedureRegistry, RefusesANameTwiceAndServesConnectionsMadeWithoutOne) {
+    const Procedure answer = [](ProcedureContext& context, const platform::ParameterList&) {
         return std::vector<platform::ResultSet>{context.Query("SELECT 'found'")};
-    });
+    };
+    ProcedureRegistry registry;
+    registry.RegisterProcedure("sp_x", answer);
+    EXPECT_THROW(registry.RegisterProcedure("DBO.SP_X", answer), std::logic_error);
+
+    DefaultRegistry().RegisterProcedure("sp_test_default_registry", answer);
     testkit::ScratchFolder folder;
-    auto made = testkit::MakeSmallDatabase(folder.File("default.db"), DefaultRegistry());
-    made.reset();
+    testkit::MakeSmallDatabase(folder.File("default.db"), DefaultRegistry()).reset();
     EmbeddedConnection connection(folder.File("default.db"));
     EXPECT_EQ(RowsText(connection.RunProcedure("SP_TEST_DEFAULT_REGISTRY", {})), "found");
 }

@@ -8,36 +8,30 @@
 namespace server::save_test {
 namespace {
 
-using SaveDetail = SaveDatabase;
-
-std::string BatchQuantities(SaveDatabase& test, const std::string& codes) {
-    return test.Text("SELECT group_concat(Batch_Code || '=' || Quantity, ' ') FROM "
-                     "(SELECT Batch_Code, Quantity FROM Batch_Products WHERE Batch_Code IN (" + codes +
-                     ") ORDER BY Batch_Code)");
-}
-
-std::string StoredRows(SaveDatabase& test, long long dispatchID) {
-    return test.Text("SELECT Serial, Batch_Code, Batch_Number, Quantity, UOMQty FROM DispatchDetail WHERE DispatchID = " +
-                     std::to_string(dispatchID) + " ORDER BY DetailID");
-}
+class SaveDetail : public SaveDatabase {
+protected:
+    std::string Batches(const std::string& codes) {
+        return Text("SELECT group_concat(Batch_Code || '=' || Quantity, ' ') FROM (SELECT Batch_Code, Quantity FROM "
+                    "Batch_Products WHERE Batch_Code IN (" + codes + ") ORDER BY Batch_Code)");
+    }
+    // A new note of the usual customer, for the test's lines.
+    const long long note = NewNote();
+};
 
 TEST_F(SaveDetail, TakesAPricedLineFromTheBatchesInTheStockListsOrder) {
-    const long long note = NewNote();
     // Cream Biscuit, no batch named, 12.5 boxes: the batch that expires first (CB102)
     // goes first, then CB101; the free stock of CB101 is not for sale.
     Line line{.dispatchID = note, .item = "FD002", .originalPrice = 13, .baseQuantity = 150, .unitQuantity = 12.5,
               .unitPrice = 156, .rowNumber = 3};
     EXPECT_EQ(StoreLine(line), 1);
-    EXPECT_EQ(BatchQuantities(*this, "5, 6, 7"), "5=594.0 6=120.0 7=0.0");
+    EXPECT_EQ(Batches("5, 6, 7"), "5=594.0 6=120.0 7=0.0");
     // One row a batch, one serial, the boxes shared in proportion.
-    EXPECT_EQ(StoredRows(*this, note), "3|7|CB102|144r|12r;3|5|CB101|6r|0.5r");
-    EXPECT_EQ(Text("SELECT SUM(Quantity), SUM(UOMQty), COUNT(DISTINCT UOM) FROM DispatchDetail WHERE DispatchID = " +
-                   std::to_string(note) + " GROUP BY Serial"),
+    EXPECT_EQ(NoteRows("Serial, Batch_Code, Batch_Number, Quantity, UOMQty", note, "ORDER BY DetailID"), "3|7|CB102|144r|12r;3|5|CB101|6r|0.5r");
+    EXPECT_EQ(NoteRows("SUM(Quantity), SUM(UOMQty), COUNT(DISTINCT UOM)", note, "GROUP BY Serial"),
               "150r|12.5r|1");
 }
 
 TEST_F(SaveDetail, ANamedNumberLimitsTheBatchesAndExpiryIsJudgedOnTheDispatchDay) {
-    const long long note = NewNote();
     // The number matches as the server's collation does.
     Line line{.dispatchID = note, .batch = "mb2401", .baseQuantity = 2401};
     // Batch 1 holds 2400 saleable; the 480 free pieces of the same number are not
@@ -45,7 +39,7 @@ TEST_F(SaveDetail, ANamedNumberLimitsTheBatchesAndExpiryIsJudgedOnTheDispatchDay
     EXPECT_EQ(StoreLine(line), 0);
     line.baseQuantity = 2400;
     EXPECT_EQ(StoreLine(line), 1);
-    EXPECT_EQ(BatchQuantities(*this, "1, 2, 4"), "1=0.0 2=1200.0 4=480.0");
+    EXPECT_EQ(Batches("1, 2, 4"), "1=0.0 2=1200.0 4=480.0");
 
     // MB2312 expired a month ago: not for today, but a note dated forty days back
     // may still take it.
@@ -54,40 +48,37 @@ TEST_F(SaveDetail, ANamedNumberLimitsTheBatchesAndExpiryIsJudgedOnTheDispatchDay
     EXPECT_EQ(StoreLine(line), 0);
     line.dispatchDay = platform::Date{Today().serial - 40};
     EXPECT_EQ(StoreLine(line), 1);
-    EXPECT_EQ(BatchQuantities(*this, "3"), "3=216.0");
+    EXPECT_EQ(Batches("3"), "3=216.0");
 }
 
 TEST_F(SaveDetail, GivesFreeStockToFreeLinesOnlyAndPrefersTheKindTheLineStoodOn) {
-    const long long note = NewNote();
     Line free{.dispatchID = note, .batch = "MB2401", .originalPrice = 0, .freeItem = 1, .freeRow = 1, .unitPrice = 0};
     // A scheme's free box on the free batch of MB2401.
     EXPECT_EQ(StoreLine(free), 1);
-    EXPECT_EQ(BatchQuantities(*this, "1, 4"), "1=2400.0 4=456.0");
+    EXPECT_EQ(Batches("1, 4"), "1=2400.0 4=456.0");
     // The same free line where the user chose the saleable batch.
     free.freeRow = 0;
     EXPECT_EQ(StoreLine(free), 1);
-    EXPECT_EQ(BatchQuantities(*this, "1, 4"), "1=2376.0 4=456.0");
+    EXPECT_EQ(Batches("1, 4"), "1=2376.0 4=456.0");
     // More than the free batch holds: a free line may go on to saleable stock.
     free.freeRow = 1;
     free.baseQuantity = 500;
     EXPECT_EQ(StoreLine(free), 1);
-    EXPECT_EQ(BatchQuantities(*this, "1, 4"), "1=2332.0 4=0.0");
+    EXPECT_EQ(Batches("1, 4"), "1=2332.0 4=0.0");
 
     // A line of another category group on free stock goes as not free, and still
     // takes the free batch it was shown.
     Line other{.dispatchID = note, .item = "PC002", .baseQuantity = 10, .batchTrack = 0, .freeRow = 1, .unit = 4,
               .unitPrice = 0, .otherGroupItem = 1};
     EXPECT_EQ(StoreLine(other, false, false), 1);
-    EXPECT_EQ(BatchQuantities(*this, "20, 21"), "20=2000.0 21=490.0");
+    EXPECT_EQ(Batches("20, 21"), "20=2000.0 21=490.0");
 
     // The goods of free lines carry no price, whatever came with them.
-    EXPECT_EQ(Text("SELECT group_concat(FreeItem || Free || OtherCG_Item || ':' || SalePrice || '/' || UOMPrice, ' ') "
-                   "FROM DispatchDetail WHERE DispatchID = " + std::to_string(note)),
+    EXPECT_EQ(NoteRows("group_concat(FreeItem || Free || OtherCG_Item || ':' || SalePrice || '/' || UOMPrice, ' ')", note),
               "110:0.0/0.0 100:0.0/0.0 110:0.0/0.0 110:0.0/0.0 011:0.0/0.0");
 }
 
 TEST_F(SaveDetail, ARefusalTakesNothingAndStoresNothing) {
-    const long long note = NewNote();
     Line line{.dispatchID = note, .item = "FD002", .unitQuantity = 62.0833};
     // 744 saleable pieces (600 of CB101, 144 of CB102): one more is refused, though
     // the first batches of the plan could have been emptied.
@@ -96,8 +87,8 @@ TEST_F(SaveDetail, ARefusalTakesNothingAndStoresNothing) {
     const auto refused = Call("sp_Save_dispatchdetail_UOM_QAX", line.Parameters(false, true));
     ASSERT_EQ(refused.size(), 1u) << "nothing was written, so no row count goes ahead of the answer";
     EXPECT_EQ(testkit::RowsText(refused.front()), "0");
-    EXPECT_EQ(BatchQuantities(*this, "5, 6, 7"), "5=600.0 6=120.0 7=144.0");
-    EXPECT_EQ(Count("SELECT COUNT(*) FROM DispatchDetail WHERE DispatchID = " + std::to_string(note)), 0);
+    EXPECT_EQ(Batches("5, 6, 7"), "5=600.0 6=120.0 7=144.0");
+    EXPECT_EQ(NoteRows("COUNT(*)", note), "0");
 
     // The transaction goes on: exactly what is there can still be taken.
     line.baseQuantity = 744;
@@ -106,7 +97,7 @@ TEST_F(SaveDetail, ARefusalTakesNothingAndStoresNothing) {
     EXPECT_EQ(stored.front().rowsAffected, 4) << "two batches and two rows";
     EXPECT_EQ(testkit::RowsText(stored.back()), "1");
     db().CommitTrans();
-    EXPECT_EQ(BatchQuantities(*this, "5, 6, 7"), "5=0.0 6=120.0 7=0.0");
+    EXPECT_EQ(Batches("5, 6, 7"), "5=0.0 6=120.0 7=0.0");
 
     // An item without stock at all.
     line.item = "FD005";
@@ -115,13 +106,13 @@ TEST_F(SaveDetail, ARefusalTakesNothingAndStoresNothing) {
 }
 
 TEST_F(SaveDetail, TheCustomerPriceProcedureTakesTheBatchAtTheShownPriceFirst) {
-    const long long note = NewNote("C003");
+    const long long stockistNote = NewNote("C003");
     // PCM24A stands at two prices: batch 24, the older, at PTS 18.00 and PTR 19.50,
     // batch 25 at PTS 19.00 and PTR 20.50. Left to the stock list's order, 24 goes first.
-    Line line{.dispatchID = note, .item = "HC001", .batch = "PCM24A", .originalPrice = 20.50, .baseQuantity = 100,
+    Line line{.dispatchID = stockistNote, .item = "HC001", .batch = "PCM24A", .originalPrice = 20.50, .baseQuantity = 100,
               .customerCategory = 2, .unit = 2, .unitQuantity = 10, .unitPrice = 205};
     EXPECT_EQ(StoreLine(line, true), 1);
-    EXPECT_EQ(BatchQuantities(*this, "24, 25, 26"), "24=1000.0 25=400.0 26=1500.0");
+    EXPECT_EQ(Batches("24, 25, 26"), "24=1000.0 25=400.0 26=1500.0");
 
     // A stockist was shown batch 25 at its PTS; what it lacks comes from the other price.
     line.customerCategory = 1;
@@ -129,15 +120,13 @@ TEST_F(SaveDetail, TheCustomerPriceProcedureTakesTheBatchAtTheShownPriceFirst) {
     line.baseQuantity = 600;
     line.unitQuantity = 60;
     EXPECT_EQ(StoreLine(line, true), 1);
-    EXPECT_EQ(BatchQuantities(*this, "24, 25, 26"), "24=800.0 25=0.0 26=1500.0");
+    EXPECT_EQ(Batches("24, 25, 26"), "24=800.0 25=0.0 26=1500.0");
 
-    EXPECT_EQ(Text("SELECT group_concat(Batch_Code || ':' || Price_Option || CustomerCategory, ' ') FROM DispatchDetail "
-                   "WHERE DispatchID = " + std::to_string(note)),
+    EXPECT_EQ(NoteRows("group_concat(Batch_Code || ':' || Price_Option || CustomerCategory, ' ')", stockistNote),
               "25:12 25:11 24:11");
 }
 
 TEST_F(SaveDetail, AnItemThatKeepsNoStockTakesNone) {
-    const long long note = NewNote();
     // The display stand's category keeps no stock, whatever the screen sends.
     Line stand{.dispatchID = note, .item = "PM001", .originalPrice = 150, .baseQuantity = 3, .batchTrack = 0,
               .unit = 1, .unitQuantity = 3, .unitPrice = 150};
@@ -148,30 +137,27 @@ TEST_F(SaveDetail, AnItemThatKeepsNoStockTakesNone) {
     crackers.trackInventory = 0;
     crackers.baseQuantity = 600;  // more than batch 8 holds
     EXPECT_EQ(StoreLine(crackers), 1);
-    EXPECT_EQ(BatchQuantities(*this, "8"), "8=500.0");
-    EXPECT_EQ(Text("SELECT group_concat(Product_Code || ':' || Batch_Code || ':' || Track_Inventory || ':' || Quantity, ' ') "
-                   "FROM DispatchDetail WHERE DispatchID = " + std::to_string(note)),
+    EXPECT_EQ(Batches("8"), "8=500.0");
+    EXPECT_EQ(NoteRows("group_concat(Product_Code || ':' || Batch_Code || ':' || Track_Inventory || ':' || Quantity, ' ')", note),
               "PM001:0:0:3.0 FD003:0:0:600.0");
 }
 
 TEST_F(SaveDetail, StoresEveryValueTheSaveSends) {
-    const long long note = NewNote();
     Line line{.dispatchID = note, .batch = "MB2402", .datedPosting = 1, .rowNumber = 4, .freeSerial = ",6",
               .schemeIDs = "201", .splCatSchemeIDs = "301", .splCatScheme = 1, .splCatSerial = "7,",
               .multiScheme = "201|2011|0|0", .multiSplCatScheme = "301|3011|0|0"};
     EXPECT_EQ(StoreLine(line, true, true), 1);
-    EXPECT_EQ(Text("SELECT Serial, Product_Code, Batch_Code, Batch_Number, SalePrice, Quantity, UOM, UOMQty, UOMPrice, "
-                   "Track_Batches, Track_Inventory, Price_Option, FreeItem, Free, OtherCG_Item, SchemeID, FreeSerial, "
-                   "CSchemeID, SPLCATSCHEMEID, SpecialCategoryScheme, SPLCATSERIAL, MultipleSchemeID, "
-                   "MultipleSchemeDetails, MultipleSplCategorySchemeID, MultipleSplCategorySchDetail, CustomerCategory, "
-                   "DatedPosting FROM DispatchDetail WHERE DispatchID = " + std::to_string(note)),
+    EXPECT_EQ(NoteRows("Serial, Product_Code, Batch_Code, Batch_Number, SalePrice, Quantity, UOM, UOMQty, UOMPrice, "
+                       "Track_Batches, Track_Inventory, Price_Option, FreeItem, Free, OtherCG_Item, SchemeID, FreeSerial, "
+                       "CSchemeID, SPLCATSCHEMEID, SpecialCategoryScheme, SPLCATSERIAL, MultipleSchemeID, "
+                       "MultipleSchemeDetails, MultipleSplCategorySchemeID, MultipleSplCategorySchDetail, "
+                       "CustomerCategory, DatedPosting", note),
               "4|FD001|2|MB2402|9r|24r|2|1r|216r|1|1|1|0|0|0|0|,6|201|301|1|7,|201|201|2011|0|0|301|301|3011|0|0|2|1");
 
     // The short list sends the scheme as a number and the free serials as they stand.
     Line shortLine{.dispatchID = note, .schemeID = 17, .freeSerial = "5"};
     EXPECT_EQ(StoreLine(shortLine, false, false), 1);
-    EXPECT_EQ(Text("SELECT SchemeID, FreeSerial, CSchemeID, Price_Option, CustomerCategory, DatedPosting "
-                   "FROM DispatchDetail WHERE DispatchID = " + std::to_string(note) + " ORDER BY DetailID DESC LIMIT 1"),
+    EXPECT_EQ(NoteRows("SchemeID, FreeSerial, CSchemeID, Price_Option, CustomerCategory, DatedPosting", note, "ORDER BY DetailID DESC LIMIT 1"),
               "17|5||0|0|0");
 }
 
@@ -183,7 +169,6 @@ TEST_F(SaveDetail, ANoteDatedBackLowersTheOpeningsOfTheLaterDays) {
                        "VALUES ('FD001', datetime(date('now', 'localtime', '-3 days')), 4320, 480);");
     const std::string before = Text(openings);
     ASSERT_EQ(before, "4320.0/480.0 4320.0/480.0 4320.0/480.0");
-    const long long note = NewNote();
     Line line{.dispatchID = note, .batch = "MB2401", .dispatchDay = platform::Date{Today().serial - 3}};
     // Without dated posting the openings stay.
     EXPECT_EQ(StoreLine(line), 1);
@@ -202,23 +187,17 @@ TEST_F(SaveDetail, ANoteDatedBackLowersTheOpeningsOfTheLaterDays) {
 }
 
 TEST_F(SaveDetail, RefusesWhatNoLineCanBeAndChangesNothing) {
-    const long long note = NewNote();
     const std::string name = "sp_Save_dispatchdetail_UOM_QAX";
     auto refusal = [&](const Line& line) { return Refusal(name, line.Parameters(false, true)); };
     Line line{.dispatchID = note};
 
-    Line unknownNote = line;
-    unknownNote.dispatchID = 999;
-    EXPECT_EQ(refusal(unknownNote), "Dispatch 999 does not exist.");
-    Line closedNote = line;
-    closedNote.dispatchID = 1;  // invoiced
-    EXPECT_EQ(refusal(closedNote), "Dispatch 1 is closed; no line can be added to it.");
-    Line unknownItem = line;
-    unknownItem.item = "FD099";
-    EXPECT_EQ(refusal(unknownItem), "Item 'FD099' does not exist.");
-    Line nothing = line;
-    nothing.baseQuantity = 0;
-    EXPECT_EQ(refusal(nothing), "The quantity of item 'FD001' must be above 0.");
+    const std::pair<Line, std::string> cases[] = {
+        {Line{.dispatchID = 999}, "Dispatch 999 does not exist."},
+        {Line{.dispatchID = 1}, "Dispatch 1 is closed; no line can be added to it."},  // invoiced
+        {Line{.dispatchID = note, .item = "FD099"}, "Item 'FD099' does not exist."},
+        {Line{.dispatchID = note, .baseQuantity = 0}, "The quantity of item 'FD001' must be above 0."},
+    };
+    for (const auto& [refused, message] : cases) EXPECT_EQ(refusal(refused), message);
 
     platform::ParameterList tooShort = line.Parameters(false, false);
     tooShort.pop_back();
@@ -228,7 +207,7 @@ TEST_F(SaveDetail, RefusesWhatNoLineCanBeAndChangesNothing) {
     EXPECT_NE(Refusal("sp_Save_dispatchDetail_csp_UOM_QAX", line.Parameters(false, false)).find("'@FreeSerial'"),
               std::string::npos);
 
-    EXPECT_EQ(BatchQuantities(*this, "1, 2, 4"), "1=2400.0 2=1200.0 4=480.0");
+    EXPECT_EQ(Batches("1, 2, 4"), "1=2400.0 2=1200.0 4=480.0");
     EXPECT_EQ(Count("SELECT COUNT(*) FROM DispatchDetail WHERE DispatchID NOT BETWEEN 1 AND 9"), 0);
 }
 

@@ -13,28 +13,20 @@ using platform::adtype::VarChar;
 
 platform::ParameterList Line::Parameters(bool customerPrice, bool longList) const {
     const platform::Value day = dispatchDay.IsEmpty() ? platform::Value(SaveDatabase::Today()) : dispatchDay;
-    platform::ParameterList list{{dispatchID, Integer},     {item, VarChar},        {batch, VarChar},
-                                 {originalPrice, Double},   {baseQuantity, Double}, {batchTrack, Integer},
-                                 {trackInventory, Integer}, {customerCategory, Integer},
-                                 {freeItem, Integer},       {freeRow, Integer},     {day, Date},
-                                 {datedPosting, Integer},   {unit, Integer},        {unitQuantity, Double},
-                                 {unitPrice, Double},       {rowNumber, Integer},   {otherGroupItem, Integer}};
+    platform::ParameterList list{{dispatchID, Integer}, {item, VarChar}, {batch, VarChar}, {originalPrice, Double},
+                                 {baseQuantity, Double}, {batchTrack, Integer}, {trackInventory, Integer},
+                                 {customerCategory, Integer}, {freeItem, Integer}, {freeRow, Integer}, {day, Date},
+                                 {datedPosting, Integer}, {unit, Integer}, {unitQuantity, Double}, {unitPrice, Double},
+                                 {rowNumber, Integer}, {otherGroupItem, Integer}};
     // Only the customer-price procedure is sent the customer's category.
     if (!customerPrice) list.erase(list.begin() + 7);
     if (!longList) {
         list.insert(list.end(), {{schemeID, Integer}, {freeSerial, VarChar}});
         return list;
     }
-    list.insert(list.end(), {{0, Integer},
-                             {freeSerial, VarChar},
-                             {schemeIDs, VarChar},
-                             {splCatSchemeIDs, VarChar},
-                             {splCatScheme, Integer},
-                             {splCatSerial, VarChar},
-                             {schemeIDs, VarChar},
-                             {multiScheme, VarChar},
-                             {splCatSchemeIDs, VarChar},
-                             {multiSplCatScheme, VarChar}});
+    list.insert(list.end(), {{0, Integer}, {freeSerial, VarChar}, {schemeIDs, VarChar}, {splCatSchemeIDs, VarChar},
+                             {splCatScheme, Integer}, {splCatSerial, VarChar}, {schemeIDs, VarChar},
+                             {multiScheme, VarChar}, {splCatSchemeIDs, VarChar}, {multiSplCatScheme, VarChar}});
     return list;
 }
 
@@ -57,50 +49,31 @@ platform::Value SaveDatabase::Answer(const std::string& name, const platform::Pa
 }
 
 std::string SaveDatabase::Refusal(const std::string& name, const platform::ParameterList& parameters) {
-    try {
-        Call(name, parameters);
-    } catch (const platform::RuntimeError& error) {
-        EXPECT_EQ(error.Number(), platform::err::DatabaseError);
-        return error.Description();
-    }
-    return "(no error)";
+    return testkit::Refusal([&] { Call(name, parameters); });
 }
 
 std::string SaveDatabase::Text(const std::string& sql) { return testkit::RowsText(db_->ExecuteNative(sql)); }
 
-double SaveDatabase::Number(const std::string& sql) {
+long long SaveDatabase::Count(const std::string& sql) {
     const platform::ResultSet result = db_->ExecuteNative(sql);
-    return result.rows.empty() ? 0 : platform::ToNumber(result.rows.front().front());
+    return result.rows.empty() ? 0 : static_cast<long long>(platform::ToNumber(result.rows.front().front()));
 }
 
-long long SaveDatabase::Count(const std::string& sql) { return static_cast<long long>(Number(sql)); }
+std::string SaveDatabase::NoteRows(const std::string& columns, long long dispatchID, const std::string& rest) {
+    return Text("SELECT " + columns + " FROM DispatchDetail WHERE DispatchID = " + std::to_string(dispatchID) + " " + rest);
+}
 
-long long SaveDatabase::NewNote(const std::string& customer) { return NewNote(*db_, customer); }
-
-long long SaveDatabase::NewNote(EmbeddedConnection& connection, const std::string& customer) {
-    const auto results = connection.CallProcedure("sp_Save_DispatchAbstract", {{"", VarChar},
-                                                            {testkit::LocalNow(), Date},
-                                                            {customer, VarChar},
-                                                            {"", VarChar},
-                                                            {"", VarChar},
-                                                            {2, Integer},
-                                                            {"", VarChar},
-                                                            {"", VarChar},
-                                                            {"", VarChar},
-                                                            {"", VarChar},
-                                                            {"", VarChar},
-                                                            {0, Integer},
-                                                            {0, Integer}});
+long long SaveDatabase::NewNote(const std::string& customer, EmbeddedConnection* on) {
+    const platform::Parameter blank{"", VarChar};
+    const auto results = (on ? *on : *db_).CallProcedure(
+        "sp_Save_DispatchAbstract", {blank, {testkit::LocalNow(), Date}, {customer, VarChar}, blank, blank, {2, Integer},
+                                     blank, blank, blank, blank, blank, {0, Integer}, {0, Integer}});
     return FirstAnswer(results).AsInteger();
 }
 
-long long SaveDatabase::StoreLine(const Line& line, bool customerPrice, bool longList) {
-    return StoreLine(*db_, line, customerPrice, longList);
-}
-
-long long SaveDatabase::StoreLine(EmbeddedConnection& connection, const Line& line, bool customerPrice, bool longList) {
+long long SaveDatabase::StoreLine(const Line& line, bool customerPrice, bool longList, EmbeddedConnection* on) {
     const char* name = customerPrice ? "sp_Save_dispatchDetail_csp_UOM_QAX" : "sp_Save_dispatchdetail_UOM_QAX";
-    const platform::Value answer = FirstAnswer(connection.CallProcedure(name, line.Parameters(customerPrice, longList)));
+    const platform::Value answer = FirstAnswer((on ? *on : *db_).CallProcedure(name, line.Parameters(customerPrice, longList)));
     return static_cast<long long>(platform::ToNumber(answer));
 }
 

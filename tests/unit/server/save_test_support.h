@@ -64,15 +64,16 @@ public:
 
     // SQLite's own query, as "a|b;c|d" (see testkit::RowsText).
     std::string Text(const std::string& sql);
-    double Number(const std::string& sql);
     long long Count(const std::string& sql);
 
-    // A new note of the customer through sp_Save_DispatchAbstract; its DispatchID.
-    long long NewNote(const std::string& customer = "C005");
-    long long NewNote(EmbeddedConnection& connection, const std::string& customer = "C005");
+    // A new note of the customer through sp_Save_DispatchAbstract; its DispatchID. Both
+    // calls go through the test's own connection unless given another.
+    long long NewNote(const std::string& customer = "C005", EmbeddedConnection* on = nullptr);
     // A line stored through the detail procedure: its answer, 1 stored or 0 refused.
-    long long StoreLine(const Line& line, bool customerPrice = false, bool longList = true);
-    long long StoreLine(EmbeddedConnection& connection, const Line& line, bool customerPrice = false, bool longList = true);
+    long long StoreLine(const Line& line, bool customerPrice = false, bool longList = true,
+                        EmbeddedConnection* on = nullptr);
+    // The rows of one note, as Text gives them.
+    std::string NoteRows(const std::string& columns, long long dispatchID, const std::string& rest = "");
 
     static platform::Date Today();
 

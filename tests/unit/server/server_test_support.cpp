@@ -2,7 +2,10 @@
 
 #include <ctime>
 
+#include <gtest/gtest.h>
+
 #include "platform/convert.h"
+#include "platform/runtime_error.h"
 #include "server/database_files.h"
 #include "server/sqlite_values.h"
 #include "support/scratch_files.h"
@@ -56,20 +59,10 @@ INSERT INTO Batch_Products VALUES
     (7, 'CHOC1', 'B7', 100, NULL, 10, 11, 13, 9.75, 4, 1, 100, '2027-03-31 00:00:00'),
     (8, 'CHOC1', 'B8', 0, 1, 10, 11, 13, 9.75, 4, 2, 50, NULL);
 
-CREATE TABLE SOAbstract (
-    SONumber INTEGER PRIMARY KEY, CustomerID TEXT COLLATE NOCASE, BillingAddress TEXT, ShippingAddress TEXT,
-    SalesmanID INTEGER, BeatID INTEGER, GroupID INTEGER, SODate DATETIME, Status INTEGER);
-INSERT INTO SOAbstract VALUES
-    (11, 'C001', 'SO bill', 'SO ship', 3, NULL, NULL, '2026-11-20 10:30:00', 0),
-    (12, 'C001', 'SO bill 2', 'SO ship 2', NULL, 5, 2, '2026-11-21 00:00:00', 0);
-
 CREATE TABLE POAbstractReceived (
     PONumber INTEGER PRIMARY KEY, CustomerID TEXT COLLATE NOCASE, BillingAddress TEXT, ShippingAddress TEXT,
     Status INTEGER);
 INSERT INTO POAbstractReceived VALUES (21, 'C002', 'PO bill', 'PO ship', 0), (22, 'C002', 'PO bill 2', 'PO ship 2', 2);
-
-CREATE TABLE PODetailReceived (PONumber INTEGER, Product_Code TEXT COLLATE NOCASE, Quantity REAL);
-INSERT INTO PODetailReceived VALUES (21, 'X-CH1', 10), (21, 'X-CH1', 5), (21, 'X-SO3', 2), (22, 'UNKNOWN9', 1);
 
 CREATE TABLE DispatchAbstract (
     DispatchID INTEGER PRIMARY KEY, CustomerID TEXT COLLATE NOCASE, DispatchDate DATETIME, Status INTEGER,
@@ -81,28 +74,9 @@ INSERT INTO DispatchAbstract VALUES
 CREATE TABLE DispatchDetail (DispatchID INTEGER, Product_Code TEXT COLLATE NOCASE, Batch_Code INTEGER, Quantity REAL);
 INSERT INTO DispatchDetail VALUES (5, 'CHOC1', 7, 3), (5, 'CHOC1', 8, 1);
 
-CREATE TABLE TransactionDocNumber (DocumentType TEXT COLLATE NOCASE, TransactionType INTEGER, Active INTEGER);
-INSERT INTO TransactionDocNumber VALUES ('INV', 5, 1), ('OLD', 5, 0);
-
-CREATE TABLE formatinfo (FormatID INTEGER PRIMARY KEY, ColWidth INTEGER);
-INSERT INTO formatinfo VALUES (9, 1), (10, 1200), (11, 900), (14, 700), (15, 5);
-
-CREATE TABLE ErrorMessages (ErrorID INTEGER PRIMARY KEY, Message TEXT);
-INSERT INTO ErrorMessages VALUES (10, 'The category group is not mapped to the salesman. Continue?');
-
-CREATE TABLE tbl_Zuro_ConfigAbstract (ScreenCode TEXT COLLATE NOCASE, Flag INTEGER);
-
 CREATE TABLE Schemes (SchemeID INTEGER PRIMARY KEY, SchemeType INTEGER, HasSlabs BIT);
 INSERT INTO Schemes VALUES (1, 2, 1), (2, 1, NULL);
 
-CREATE TABLE SalesmanBeatCustomer (
-    SalesmanID INTEGER, Salesman_Name TEXT, BeatID INTEGER, BeatName TEXT, CustomerID TEXT, GroupID INTEGER,
-    GroupName TEXT);
-INSERT INTO SalesmanBeatCustomer VALUES
-    (1, 'Ravi', 5, 'North', 'C001', 1, 'Foods'),
-    (1, 'Ravi', 6, 'South', 'C002', 2, 'Home care'),
-    (2, 'Asha', 6, 'South', 'C002', 1, 'Foods'),
-    (2, 'Asha', 7, '', 'C001', NULL, NULL);
 )SQL";
 }
 
@@ -142,6 +116,16 @@ std::string RowsText(const platform::ResultSet& result) {
 }
 
 std::string RowsText(const platform::RecordsetPtr& recordset) { return RowsText(recordset->Current()); }
+
+std::string Refusal(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const platform::RuntimeError& error) {
+        EXPECT_EQ(error.Number(), platform::err::DatabaseError);
+        return error.Description();
+    }
+    return "(no error)";
+}
 
 platform::Date LocalNow() {
     std::time_t now = std::time(nullptr);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -34,6 +35,10 @@ std::shared_ptr<EmbeddedConnection> MakeSmallDatabase(const std::string& path, c
 // Rows as "a|b;c|d": Null as NULL, dates as 'YYYY-MM-DD HH:MM:SS' with a D: prefix.
 std::string RowsText(const platform::ResultSet& result);
 std::string RowsText(const platform::RecordsetPtr& recordset);  // its first result
+
+// The description of the database error the action raises (any other error fails the
+// test); "(no error)" when it goes through.
+std::string Refusal(const std::function<void()>& action);
 
 // The local date and time, to the second.
 platform::Date LocalNow();

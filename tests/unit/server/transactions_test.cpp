@@ -11,16 +11,6 @@ namespace {
 
 using testkit::RowsText;
 
-std::string DescriptionOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const platform::RuntimeError& error) {
-        EXPECT_EQ(error.Number(), platform::err::DatabaseError);
-        return error.Description();
-    }
-    return "(no error)";
-}
-
 class Transactions : public ::testing::Test {
 protected:
     Transactions() {
@@ -46,10 +36,10 @@ TEST_F(Transactions, BeginTakesTheWriteLockAtOnce) {
 
     // The second clerk's writer waits out its busy timeout, then fails.
     auto started = std::chrono::steady_clock::now();
-    EXPECT_EQ(DescriptionOf([&] { second_->Execute("UPDATE Batch_Products SET Quantity = 0 WHERE Batch_Code = 7"); }),
+    EXPECT_EQ(testkit::Refusal([&] { second_->Execute("UPDATE Batch_Products SET Quantity = 0 WHERE Batch_Code = 7"); }),
               "database is locked");
     EXPECT_GE(std::chrono::steady_clock::now() - started, std::chrono::milliseconds(150));
-    EXPECT_EQ(DescriptionOf([&] { second_->BeginTrans(); }), "database is locked");
+    EXPECT_EQ(testkit::Refusal([&] { second_->BeginTrans(); }), "database is locked");
     EXPECT_FALSE(second_->InTransaction());
 
     // Readers are not held up, and see what was committed.
@@ -81,15 +71,15 @@ TEST_F(Transactions, RollbackLeavesTheFileAsItWas) {
 }
 
 TEST_F(Transactions, RefusesCallsOutOfOrder) {
-    EXPECT_EQ(DescriptionOf([&] { first_->CommitTrans(); }),
+    EXPECT_EQ(testkit::Refusal([&] { first_->CommitTrans(); }),
               "The COMMIT TRANSACTION request has no corresponding BEGIN TRANSACTION.");
-    EXPECT_EQ(DescriptionOf([&] { first_->RollbackTrans(); }),
+    EXPECT_EQ(testkit::Refusal([&] { first_->RollbackTrans(); }),
               "The ROLLBACK TRANSACTION request has no corresponding BEGIN TRANSACTION.");
     first_->BeginTrans();
-    EXPECT_EQ(DescriptionOf([&] { first_->BeginTrans(); }), "Only one transaction can be active on this session.");
+    EXPECT_EQ(testkit::Refusal([&] { first_->BeginTrans(); }), "Only one transaction can be active on this session.");
     EXPECT_TRUE(first_->InTransaction());  // the refused call left the open one alone
     first_->RollbackTrans();
-    EXPECT_EQ(DescriptionOf([&] { first_->RollbackTrans(); }),
+    EXPECT_EQ(testkit::Refusal([&] { first_->RollbackTrans(); }),
               "The ROLLBACK TRANSACTION request has no corresponding BEGIN TRANSACTION.");
 }
 
@@ -97,7 +87,7 @@ TEST_F(Transactions, AFailedStatementInsideLeavesTheTransactionOpen) {
     first_->BeginTrans();
     first_->Execute("UPDATE Batch_Products SET Quantity = 1 WHERE Batch_Code = 7");
     // A row for an item that does not exist breaks a foreign key.
-    EXPECT_EQ(DescriptionOf([&] { first_->Execute("Insert Into Batch_Products (Batch_Code, Product_Code) Values (99, 'NONE')"); }),
+    EXPECT_EQ(testkit::Refusal([&] { first_->Execute("Insert Into Batch_Products (Batch_Code, Product_Code) Values (99, 'NONE')"); }),
               "FOREIGN KEY constraint failed");
     EXPECT_TRUE(first_->InTransaction());
     first_->RollbackTrans();

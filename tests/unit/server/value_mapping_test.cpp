@@ -1,4 +1,6 @@
-// What comes back from the database, and in what kind of value.
+// What comes back from the database and in what kind of value, and what the screen's
+// statements rely on from the connection: row counts, several results from one call
+// and the server's built-in functions.
 #include <gtest/gtest.h>
 
 #include "platform/convert.h"
@@ -58,6 +60,32 @@ TEST_F(ValueMapping, BoundValuesGoInAsTheDatabaseKeepsThem) {
     EXPECT_EQ(RowsText(connection_->Execute("Select DispatchID From DispatchAbstract Where DispatchDate >= '2026-11-22 10:00:00'"
                                             " Order By DispatchDate")),
               "6;7");
+}
+
+TEST_F(ValueMapping, ChangesReportTheirRowsAndBatchesGiveOneResultEach) {
+    EXPECT_EQ(connection_->Execute("Update [POAbstractReceived] set Status = Status | 128 where [PONumber] IN (21,22)")
+                  ->RowsAffected(),
+              2);
+    EXPECT_EQ(connection_->Execute("Update [POAbstractReceived] set Status = 0 where [PONumber] IN (99)")->RowsAffected(), 0);
+    auto recordset = connection_->Execute("Update Schemes Set SchemeType = 9 Where SchemeID = 1; "
+                                          "Select SchemeType From Schemes Where SchemeID = 1");
+    EXPECT_EQ(recordset->RowsAffected(), 1);
+    ASSERT_TRUE(recordset->NextRecordset());
+    EXPECT_EQ(recordset->Fields(0), platform::Value(9));
+}
+
+TEST_F(ValueMapping, BuiltInFunctionsGiveTheServersAnswers) {
+    EXPECT_EQ(RowsText(connection_->Execute(
+                  "Select Len('ab  '), Right('abcdef', 2), Right('abc', 0), Left('abcdef', 2), Charindex('c', 'abc'), "
+                  "Convert(varchar(10), '2026-11-22 10:30:00', 103), Cast('12.345' as decimal(10,2)), Cast(12.7 as int), "
+                  "Cast('2026-11-22' as datetime), Substring('abcdef', 2, 3), Convert(bit, 5)")),
+              "2|ef||ab|3|22/11/2026|12.35r|12|D:2026-11-22 00:00:00|bcd|1");
+    connection_->Execute("Insert Into Schemes (SchemeID, SchemeType) Values (40, 1)");
+    EXPECT_EQ(RowsText(connection_->Execute("Select @@IDENTITY")), "40");
+    connection_->Execute("Update DispatchAbstract Set CancelDate = getdate() Where DispatchID = 6");
+    const auto now = First("Select CancelDate From DispatchAbstract Where DispatchID = 6");
+    ASSERT_EQ(now.kind(), Kind::Date);
+    EXPECT_NEAR(now.AsDate().serial, testkit::LocalNow().serial, 5.0 / (24 * 60));
 }
 
 TEST(DateTimeText, IsTheStoredFormWithTheTimeAlwaysWritten) {

@@ -13,9 +13,12 @@ int main(int argc, char** argv) {
     std::string database, printFolder;
     auto* sessionCommand = cli.add_subcommand("session", "Run a session script and print its transcript.");
     sessionCommand->add_option("SCRIPT", session.script, "The session script")->required();
-    sessionCommand->add_option("--db", database, "Database file used when the script names none (default: a fresh demo copy)");
-    sessionCommand->add_flag("--trace-sql", session.traceSql, "Show every statement and procedure call the screen sends");
-    sessionCommand->add_option("--print-dir", printFolder, "Folder for printed notes (default: the session's temporary folder)");
+    sessionCommand->add_option("--db", database,
+                               "Database file used when the script names none (default: a fresh demo copy)");
+    sessionCommand->add_flag("--trace-sql", session.traceSql,
+                             "Show every statement and procedure call the screen sends");
+    sessionCommand->add_option("--print-dir", printFolder,
+                               "Folder for printed notes (default: the session's temporary folder)");
 
     std::string demoFile;
     bool force = false;

@@ -128,7 +128,8 @@ BENCHMARK(BM_SaveDispatch)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMilli
 class Prepared {
 public:
     Prepared(sqlite3* db, const char* sql) : db_(db) {
-        if (sqlite3_prepare_v2(db, sql, -1, &statement_, nullptr) != SQLITE_OK) throw std::runtime_error(sqlite3_errmsg(db));
+        if (sqlite3_prepare_v2(db, sql, -1, &statement_, nullptr) != SQLITE_OK)
+            throw std::runtime_error(sqlite3_errmsg(db));
     }
     ~Prepared() { sqlite3_finalize(statement_); }
     template <class... Values>
@@ -159,17 +160,19 @@ void BM_PreparedBaseline(benchmark::State& state) {
 
         sqlite3_exec(db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
         {
-            Prepared abstract(db,
-                              "INSERT INTO DispatchAbstract (DocumentID, DispatchDate, CustomerID, BillingAddress, "
-                              "ShippingAddress, Status, RefNumber, NewRefNumber, DocReference, DocumentType, SalesmanID, "
-                              "BeatID, GroupID, CreationTime) VALUES (51, '2026-11-22 00:00:00', 'C005', 'a', 'a', 2, '', "
-                              "'', 'TN/DN/43', 'DN-TN', 1, 1, '1,2', '2026-11-22 10:00:00')");
+            Prepared abstract(
+                db,
+                "INSERT INTO DispatchAbstract (DocumentID, DispatchDate, CustomerID, BillingAddress, "
+                "ShippingAddress, Status, RefNumber, NewRefNumber, DocReference, DocumentType, SalesmanID, "
+                "BeatID, GroupID, CreationTime) VALUES (51, '2026-11-22 00:00:00', 'C005', 'a', 'a', 2, '', "
+                "'', 'TN/DN/43', 'DN-TN', 1, 1, '1,2', '2026-11-22 10:00:00')");
             abstract.Run();
             const sqlite3_int64 id = sqlite3_last_insert_rowid(db);
             Prepared serial(db, "UPDATE DocumentNumbers SET LastNumber = LastNumber + 1 WHERE DocType = 5");
             serial.Run();
-            Prepared docType(db, "UPDATE TransactionDocNumber SET LastCount = LastCount + 1 WHERE TransactionType = 5 "
-                                 "AND DocumentType = 'DN-TN'");
+            Prepared docType(db,
+                             "UPDATE TransactionDocNumber SET LastCount = LastCount + 1 WHERE TransactionType = 5 "
+                             "AND DocumentType = 'DN-TN'");
             docType.Run();
             Prepared stock(db, "UPDATE Batch_Products SET Quantity = Quantity - ? WHERE Batch_Code = ?");
             Prepared detail(db,
@@ -180,9 +183,11 @@ void BM_PreparedBaseline(benchmark::State& state) {
                 stock.Run(24.0, 1);
                 detail.Run(id, r);
             }
-            Prepared posting(db, "INSERT INTO JournalPostings (Counter, DocumentID, PostingDate, Account, Debit, Credit, "
-                                 "Narration, UserName, CreationTime) VALUES (2, ?, '2026-11-22 00:00:00', ?, ?, ?, 'Dispatch', "
-                                 "'Admin', '2026-11-22 10:00:00')");
+            Prepared posting(
+                db,
+                "INSERT INTO JournalPostings (Counter, DocumentID, PostingDate, Account, Debit, Credit, "
+                "Narration, UserName, CreationTime) VALUES (2, ?, '2026-11-22 00:00:00', ?, ?, ?, 'Dispatch', "
+                "'Admin', '2026-11-22 10:00:00')");
             posting.Run(id, "C005", 216.0 * lines, 0.0);
             posting.Run(id, "Sales", 0.0, 216.0 * lines);
         }

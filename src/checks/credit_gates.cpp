@@ -27,15 +27,15 @@ bool Zuro_frmDispatch_Dispatch::CheckCreditGates(long nSalesmanID, long nBeatID,
 
     if (bAllCategories) return CheckCreditLimit(fExposure, fCreditLimit);
 
-    auto result = global.NextRecordset(global.RunProcedure(
-        "sp_CheckCreditLimitExceeds_QAX", {{2, platform::adtype::Integer},
-                                           {nSalesmanID, platform::adtype::Integer},
-                                           {nBeatID, platform::adtype::Integer},
-                                           {szCustomerCode, platform::adtype::VarChar},
-                                           {szCurrentGroupID, platform::adtype::VarChar},
-                                           {fDispatchValue, platform::adtype::Double},
-                                           {fExposure, platform::adtype::Double},
-                                           {fCreditLimit, platform::adtype::Double}}));
+    auto result = global.NextRecordset(
+        global.RunProcedure("sp_CheckCreditLimitExceeds_QAX", {{2, platform::adtype::Integer},
+                                                               {nSalesmanID, platform::adtype::Integer},
+                                                               {nBeatID, platform::adtype::Integer},
+                                                               {szCustomerCode, platform::adtype::VarChar},
+                                                               {szCurrentGroupID, platform::adtype::VarChar},
+                                                               {fDispatchValue, platform::adtype::Double},
+                                                               {fExposure, platform::adtype::Double},
+                                                               {fCreditLimit, platform::adtype::Double}}));
     const platform::Value* exceeded = FirstRowField(result);
     if (exceeded && global.ToNumber(*exceeded) == kLimitExceeded) return CheckCrLimit();
     if (HasRecordset(result)) result->Close();

@@ -23,7 +23,8 @@ void Zuro_frmDispatch_Dispatch::ShowCustomerCredit(const std::string& szName, bo
         if (bWithBills) {
             figures.push_back(global.ToText(LoadBillsOutstanding(szName)));
             text = host_.messages.FormatMessage(
-                "Net Cr Limit: {0}, Net O/S: {1}, Not Overdue: {2}, Overdue: {3}, Chqs in Hand: {4}, No.of Bills O/S: {5}",
+                "Net Cr Limit: {0}, Net O/S: {1}, Not Overdue: {2}, Overdue: {3}, Chqs in Hand: {4}, No.of Bills O/S: "
+                "{5}",
                 figures);
         } else {
             text = host_.messages.FormatMessage(
@@ -57,10 +58,10 @@ double Zuro_frmDispatch_Dispatch::GetCustomerOverDue(const std::string& szCode, 
     double amount = 0;
     Handled("GetCustomerOverDue", [&] {
         auto& global = host_.global;
-        auto result = global.NextRecordset(global.RunProcedure(
-            "sp_get_Customer_OverDue", {{szCode, platform::adtype::VarChar},
-                                        {global.GetTransactionDate(), platform::adtype::Date},
-                                        {nKind, platform::adtype::Integer}}));
+        auto result = global.NextRecordset(
+            global.RunProcedure("sp_get_Customer_OverDue", {{szCode, platform::adtype::VarChar},
+                                                            {global.GetTransactionDate(), platform::adtype::Date},
+                                                            {nKind, platform::adtype::Integer}}));
         if (auto* field = FirstRowField(result, "Amount")) amount = global.ToNumber(*field);
     });
     return amount;
@@ -70,8 +71,8 @@ double Zuro_frmDispatch_Dispatch::GetChequesInHand(const std::string& szCode) {
     double cheques = 0;
     Handled("GetChequesInHand", [&] {
         auto& global = host_.global;
-        auto result = global.NextRecordset(
-            global.RunProcedure("sp_acc_PartyChqsinhand", {{szCode, platform::adtype::VarChar}}));
+        auto result =
+            global.NextRecordset(global.RunProcedure("sp_acc_PartyChqsinhand", {{szCode, platform::adtype::VarChar}}));
         if (auto* field = FirstRowField(result))
             cheques = platform::Val(platform::Format(global.ToText(*field), "Fixed"));
     });

@@ -37,15 +37,16 @@ void Zuro_frmDispatch_Dispatch::AddBatchInfo(const std::string& szBatch, double 
         entry.SetSubItemTag(grid::kSubPrice, platform::NumberToText(dPrice));
         // The stored quantity is multiplied by the rate here, where the stock load
         // divides; the list has always shown it so.
-        entry.SetSubItem(grid::kSubQuantity,
-                         platform::Format(grid::CellValue(grid, row, grid::colStoredQty) * dUOMRate,
-                                          global.GetNumberFormat(grid::kQuantityFormatKind)));
+        entry.SetSubItem(grid::kSubQuantity, platform::Format(grid::CellValue(grid, row, grid::colStoredQty) * dUOMRate,
+                                                              global.GetNumberFormat(grid::kQuantityFormatKind)));
         if (lstAvailable.ColumnHeaders.at(grid::kListPKDColumn).Width > 0)
             entry.SetSubItem(grid::kSubPKD, grid::MonthYear(platform::Value(grid.GetCell(row, grid::colStoredPKD))));
 
         auto batch = global.GetConnection().Execute(
-            "Select top 1 Batch_Code, IsNull(Free, 0) as Free, PTS, PTR, ECP, Company_Price, TaxSuffered, ApplicableOn, "
-            "PartofPercentage from Batch_Products Where Batch_Code=" + std::to_string(nBatchCode));
+            "Select top 1 Batch_Code, IsNull(Free, 0) as Free, PTS, PTR, ECP, Company_Price, TaxSuffered, "
+            "ApplicableOn, "
+            "PartofPercentage from Batch_Products Where Batch_Code=" +
+            std::to_string(nBatchCode));
         if (!batch->Eof()) {
             if (global.ToNumber(batch->Fields("Free")) == 1) entry.SetSubItem(grid::kSubFree, messages.GetYesText());
             entry.SetSubItem(grid::kSubTaxSuffered, platform::Format(batch->Fields("TaxSuffered"), szPriceFormat));
@@ -86,12 +87,14 @@ void Zuro_frmDispatch_Dispatch::AddUnBatchQty(const std::string& szBatchOption, 
         auto& global = host_.global;
         const double dRowQty = grid::DivideByRate(dQuantity, dUOMRate);
         const std::string szFreeMark = nFree == 1 ? host_.messages.GetYesText() : "";
-        const int nEntry = FindEntry(lstAvailable, szBatchOption,
-                                     platform::Format(dPrice, global.GetNumberFormat(grid::kPriceFormatKind)), szFreeMark);
+        const int nEntry =
+            FindEntry(lstAvailable, szBatchOption,
+                      platform::Format(dPrice, global.GetNumberFormat(grid::kPriceFormatKind)), szFreeMark);
         if (nEntry == 0) return;
         platform::ListItem& entry = lstAvailable.Item(nEntry);
-        entry.SetSubItem(grid::kSubQuantity, platform::Format(platform::Val(entry.SubItem(grid::kSubQuantity)) + dRowQty,
-                                                              global.GetNumberFormat(grid::kQuantityFormatKind)));
+        entry.SetSubItem(grid::kSubQuantity,
+                         platform::Format(platform::Val(entry.SubItem(grid::kSubQuantity)) + dRowQty,
+                                          global.GetNumberFormat(grid::kQuantityFormatKind)));
     });
 }
 
@@ -105,7 +108,8 @@ void Zuro_frmDispatch_Dispatch::AddUnBatchInfo(double dQuantity, double dPrice, 
         entry.SetSubItem(grid::kSubExpiry, szExpiry);
         entry.SetSubItem(grid::kSubPrice, platform::Format(dPrice, global.GetNumberFormat(grid::kPriceFormatKind)));
         entry.SetSubItemTag(grid::kSubPrice, platform::NumberToText(dPrice));
-        entry.SetSubItem(grid::kSubQuantity, platform::Format(dRowQty, global.GetNumberFormat(grid::kQuantityFormatKind)));
+        entry.SetSubItem(grid::kSubQuantity,
+                         platform::Format(dRowQty, global.GetNumberFormat(grid::kQuantityFormatKind)));
         entry.SetSubItem(grid::kSubPKD, szPKD);
         if (!platform::Trim(szFreeText).empty()) entry.SetSubItem(grid::kSubFree, szFreeText);
     });

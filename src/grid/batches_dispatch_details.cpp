@@ -31,7 +31,8 @@ void Zuro_frmDispatch_Dispatch::DispatchBatchDetails(const std::string& szItemCo
         const long nBatchCode = static_cast<long>(grid::CellValue(grid, row, grid::colBatchCode));
         const bool bFreeRow = grid::CellValue(grid, row, grid::colFreeRow) == 1;
         const std::string szFreeMark = bFreeRow ? host_.messages.GetYesText() : "";
-        const std::string szPriceText = platform::Format(platform::Value(szPrice), global.GetNumberFormat(grid::kPriceFormatKind));
+        const std::string szPriceText =
+            platform::Format(platform::Value(szPrice), global.GetNumberFormat(grid::kPriceFormatKind));
         const double dPrice = platform::Val(szPrice);
         auto shownWidth = [&](int column) { return list.ColumnHeaders.at(static_cast<std::size_t>(column)).Width > 0; };
 
@@ -51,7 +52,8 @@ void Zuro_frmDispatch_Dispatch::DispatchBatchDetails(const std::string& szItemCo
                     PreserveOriginalQty(szBatch, grid::MonthYear(platform::Value(szStoredExpiry)),
                                         grid::MonthYear(platform::Value(szStoredPKD)), dPrice, dRowStoredQty);
                 } else if (bAmending) {
-                    const bool bSamePrice = !shownWidth(grid::kListPriceColumn) || entry.SubItem(grid::kSubPrice) == szPriceText;
+                    const bool bSamePrice =
+                        !shownWidth(grid::kListPriceColumn) || entry.SubItem(grid::kSubPrice) == szPriceText;
                     if (!bSamePrice || !bSameFree) continue;
                     bMatched = true;
                     AddUnBatchQty(szBatch, dPrice, dRowStoredQty, bFreeRow ? 1 : 0);
@@ -72,7 +74,8 @@ void Zuro_frmDispatch_Dispatch::DispatchBatchDetails(const std::string& szItemCo
             // At most a saleable and a free entry: the row's kind takes back its own.
             int nChosen = 0;
             for (int i : {2, 1})
-                if (nChosen == 0 && i <= list.Count() && list.Item(i).SubItem(grid::kSubFree) == szFreeMark) nChosen = i;
+                if (nChosen == 0 && i <= list.Count() && list.Item(i).SubItem(grid::kSubFree) == szFreeMark)
+                    nChosen = i;
             if (nChosen > 0) {
                 list.Select(nChosen);
                 platform::ListItem& entry = list.Item(nChosen);

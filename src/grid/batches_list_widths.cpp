@@ -24,9 +24,9 @@ void SetColumnWidth(platform::ListView& list, int column, double width) {
 void Zuro_frmDispatch_Dispatch::LoadListWidths(long nScreen, platform::Frame& frame, platform::ListView& list) {
     Handled("LoadListWidths", [&] {
         const long nFirst = (nScreen - 1) * kWidthsPerScreen + 10;
-        auto widths = host_.global.GetConnection().Execute("Select colwidth from formatinfo where formatid>=" +
-                                                           std::to_string(nFirst) +
-                                                           "and formatid<=" + std::to_string(nFirst + 4));
+        auto widths = host_.global.GetConnection().Execute(
+            "Select colwidth from formatinfo where formatid>=" + std::to_string(nFirst) +
+            "and formatid<=" + std::to_string(nFirst + 4));
         vListWidths.clear();
         double dSum = 0;
         if (widths->Eof()) vListWidths.assign(kWidthsPerScreen, kDefaultWidth);
@@ -38,7 +38,8 @@ void Zuro_frmDispatch_Dispatch::LoadListWidths(long nScreen, platform::Frame& fr
         widths->Close();
         // A screen with fewer than five widths stored takes the default for the rest.
         while (vListWidths.size() < kWidthsPerScreen) vListWidths.push_back(kDefaultWidth);
-        for (int i = 0; i < kWidthsPerScreen; ++i) SetColumnWidth(list, kWidthColumns[i], vListWidths[static_cast<std::size_t>(i)]);
+        for (int i = 0; i < kWidthsPerScreen; ++i)
+            SetColumnWidth(list, kWidthColumns[i], vListWidths[static_cast<std::size_t>(i)]);
         frame.Width = dSum + kFrameMargin;
         list.Width = dSum + kListMargin;
     });

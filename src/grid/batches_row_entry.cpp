@@ -17,10 +17,12 @@ void Zuro_frmDispatch_Dispatch::TakeFromBatchEntry(long nRow, long nCol) {
         const std::string szEntryPrice = entry.SubItemTag(grid::kSubPrice);
         auto takeEntryPrice = [&] {
             grid.SetCell(row, grid::colSalePrice, szEntryPrice);
-            grid::SetCellNumber(grid, row, grid::colOriginalPrice, grid::DivideByRate(platform::Val(szEntryPrice), dUOMRate));
+            grid::SetCellNumber(grid, row, grid::colOriginalPrice,
+                                grid::DivideByRate(platform::Val(szEntryPrice), dUOMRate));
         };
 
-        grid::SetCellNumber(grid, row, grid::colAvailableQty, platform::Val(entry.SubItem(grid::kSubQuantity)) * dUOMRate);
+        grid::SetCellNumber(grid, row, grid::colAvailableQty,
+                            platform::Val(entry.SubItem(grid::kSubQuantity)) * dUOMRate);
         grid.SetCell(row, grid::colFreeRow, bFreeStock ? "1" : "0");
         if (nBatchTrack == 1) grid.SetCell(row, grid::colBatch, entry.Text);
         if (nPriceOption == 1) {
@@ -54,9 +56,9 @@ void Zuro_frmDispatch_Dispatch::ShowBatchStockStatus(long nRow, long nCol) {
         // An amendment may keep what the note already holds on top of the stock.
         double dTotal = GetTotalBookStock(grid.GetCell(row, grid::colItemCode));
         if (nMode == mode::Amendment) dTotal += dStoredQty;
-        szStatus += host_.messages.FormatMessage(
-            "Total: {0}", {platform::Format(grid::DivideByRate(dTotal, dUOMRate),
-                                            global.GetNumberFormat(grid::kQuantityFormatKind))});
+        szStatus += host_.messages.FormatMessage("Total: {0}",
+                                                 {platform::Format(grid::DivideByRate(dTotal, dUOMRate),
+                                                                   global.GetNumberFormat(grid::kQuantityFormatKind))});
         global.ShowStatus(szStatus, 0);
     });
 }

@@ -13,7 +13,18 @@ namespace screen {
 namespace {
 // Fields of a stock row, by position.
 enum StockField {
-    fBatch, fExpiry, fQuantity, fSalePrice, fPKD, fFree, fTaxSuffered, fECP, fPTS, fPTR, fSpecialPrice, fApplicableOn,
+    fBatch,
+    fExpiry,
+    fQuantity,
+    fSalePrice,
+    fPKD,
+    fFree,
+    fTaxSuffered,
+    fECP,
+    fPTS,
+    fPTR,
+    fSpecialPrice,
+    fApplicableOn,
     fPartOfPercentage
 };
 constexpr double kPKDWidth = 800;
@@ -23,8 +34,10 @@ constexpr const char* kPriceKinds[] = {"", "SP", "PTS", "PTR", "ECP", "SPLPRICE"
 bool ExpiredBefore(const platform::Value& expiry, platform::Date day) {
     if (expiry.IsNull() || expiry.IsEmpty()) return false;
     std::optional<platform::Date> date;
-    if (expiry.kind() == platform::Value::Kind::Date) date = expiry.AsDate();
-    else date = platform::ParseIsoDate(platform::ToText(expiry));
+    if (expiry.kind() == platform::Value::Kind::Date)
+        date = expiry.AsDate();
+    else
+        date = platform::ParseIsoDate(platform::ToText(expiry));
     return date && platform::DateOnly(*date).serial < platform::DateOnly(day).serial;
 }
 }  // namespace
@@ -36,11 +49,12 @@ platform::RecordsetPtr Zuro_frmDispatch_Dispatch::OpenBatchStock(const std::stri
     Handled("OpenBatchStock", [&] {
         auto& global = host_.global;
         using platform::adtype::Integer;
-        stock = global.NextRecordset(global.RunProcedure(
-            szProcedure.empty() ? "sp_get_bookstock" : szProcedure,
-            {{platform::Value(szItemCode), platform::adtype::VarChar}, {platform::Value(nBatchTrack), Integer},
-             {platform::Value(nPriceOption), Integer}, {platform::Value(nCustomerCategory), Integer},
-             {platform::Value(nVirtualBatches), Integer}}));
+        stock = global.NextRecordset(global.RunProcedure(szProcedure.empty() ? "sp_get_bookstock" : szProcedure,
+                                                         {{platform::Value(szItemCode), platform::adtype::VarChar},
+                                                          {platform::Value(nBatchTrack), Integer},
+                                                          {platform::Value(nPriceOption), Integer},
+                                                          {platform::Value(nCustomerCategory), Integer},
+                                                          {platform::Value(nVirtualBatches), Integer}}));
     });
     return stock;
 }
@@ -52,8 +66,8 @@ double Zuro_frmDispatch_Dispatch::LoadBatchStock(platform::ListView& list, const
     double dTotal = 0;
     Handled("LoadBatchStock", [&] {
         auto& global = host_.global;
-        auto stock = OpenBatchStock(szItemCode, nBatchTrack, nPriceOption, nCustomerCategory, szProcedure,
-                                    nVirtualBatches);
+        auto stock =
+            OpenBatchStock(szItemCode, nBatchTrack, nPriceOption, nCustomerCategory, szProcedure, nVirtualBatches);
         list.Clear();
         if (list.ColumnHeaders.size() <= grid::kListPKDColumn) throw platform::RuntimeError(35600);
         list.ColumnHeaders[grid::kListPKDColumn].Width = nTrackPKD != 0 ? kPKDWidth : 0;
@@ -72,7 +86,8 @@ double Zuro_frmDispatch_Dispatch::LoadBatchStock(platform::ListView& list, const
             const double dQuantity = global.ToNumber(stock->Fields(fQuantity));
             entry.SetSubItem(grid::kSubQuantity, platform::Format(grid::DivideByRate(dQuantity, dRate), szQtyFormat));
             if (nTrackPKD == 1) entry.SetSubItem(grid::kSubPKD, grid::MonthYear(stock->Fields(fPKD)));
-            if (global.ToNumber(stock->Fields(fFree)) == 1) entry.SetSubItem(grid::kSubFree, host_.messages.GetYesText());
+            if (global.ToNumber(stock->Fields(fFree)) == 1)
+                entry.SetSubItem(grid::kSubFree, host_.messages.GetYesText());
             const double dTax = global.ToNumber(stock->Fields(fTaxSuffered));
             entry.SetSubItem(grid::kSubTaxSuffered, platform::Format(dTax, szPriceFormat));
             entry.SetSubItemTag(grid::kSubTaxSuffered, platform::NumberToText(dTax));
@@ -84,7 +99,8 @@ double Zuro_frmDispatch_Dispatch::LoadBatchStock(platform::ListView& list, const
                 const auto nKind = static_cast<long>(global.ToNumber(stock->Fields(fApplicableOn)));
                 if (nKind > 0 && nKind < static_cast<long>(std::size(kPriceKinds)))
                     entry.SetSubItem(grid::kSubApplicableOn, host_.messages.GetLabel(kPriceKinds[nKind]));
-                entry.SetSubItem(grid::kSubPartOfPercentage, platform::Format(stock->Fields(fPartOfPercentage), "Fixed"));
+                entry.SetSubItem(grid::kSubPartOfPercentage,
+                                 platform::Format(stock->Fields(fPartOfPercentage), "Fixed"));
             }
             dTotal += dQuantity;
         }

@@ -48,7 +48,8 @@ std::string Zuro_frmDispatch_Dispatch::GetGridQuantity(platform::DTFlex& objGrid
     std::string szQuantity;
     Handled("GetGridQuantity", [&] {
         const long nCol = FindQuantityColumn(objGrid, nRow);
-        szQuantity = platform::NumberToText(platform::Val(platform::Trim(objGrid.GetCell(static_cast<int>(nRow), static_cast<int>(nCol)))));
+        szQuantity = platform::NumberToText(
+            platform::Val(platform::Trim(objGrid.GetCell(static_cast<int>(nRow), static_cast<int>(nCol)))));
     });
     return szQuantity;
 }

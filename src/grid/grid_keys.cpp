@@ -94,9 +94,10 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_KeyCode(int& KeyCode, int Shift) 
         }
         if (!FrameAvailable.Visible && dUOMRate != 0 && !bQtyRefused) {
             const double dTotal = (GetTotalBookStock(cell(colItemCode)) + dStoredQty) / dUOMRate;
-            global.ShowStatus(host_.messages.FormatMessage(
-                                  "Total: {0}", {platform::Format(platform::Value(dTotal), global.GetNumberFormat(-1))}),
-                              0);
+            global.ShowStatus(
+                host_.messages.FormatMessage("Total: {0}",
+                                             {platform::Format(platform::Value(dTotal), global.GetNumberFormat(-1))}),
+                0);
         }
 
         if (KeyCode == keys::Escape) cmdChange.Visible = false;

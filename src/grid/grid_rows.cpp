@@ -45,8 +45,9 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_RowColChange(int nRow, int nCol) 
             bool bTestStock = true;
             if (bAmendment) {
                 const double dHeld = global.ToNumber(global.LookupValue(
-                    global.GetConnection(), "Select count(*) from DispatchDetail where Dispatchid=" +
-                                                std::to_string(nDispatchID) + " and Product_code=N'" + szItemCode + "'"));
+                    global.GetConnection(),
+                    "Select count(*) from DispatchDetail where Dispatchid=" + std::to_string(nDispatchID) +
+                        " and Product_code=N'" + szItemCode + "'"));
                 bTestStock = dHeld <= 0;
             }
             if (bTestStock && GetTotalBookStock(szItemCode) == 0) {
@@ -62,8 +63,8 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_RowColChange(int nRow, int nCol) 
             FrameAvailable.Visible = true;
             cmdChange.Visible = true;
 
-            const bool bShowStatus = bAmendment ? !bQtySyntaxError && !bQtyRefused
-                                                : !bQtySyntaxError && !bQtyRefused && dUOMRate != 0;
+            const bool bShowStatus =
+                bAmendment ? !bQtySyntaxError && !bQtyRefused : !bQtySyntaxError && !bQtyRefused && dUOMRate != 0;
             if (bShowStatus) ShowBatchStockStatus(nRow, nCol);
         }
 
@@ -99,9 +100,8 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_AtFirstRow() {
 
 std::string Zuro_frmDispatch_Dispatch::GetCustomerForScheme() {
     std::string szCustomer;
-    Handled("GetCustomerForScheme", [&] {
-        szCustomer = nMode == mode::FromSalesConfirmation ? lblCustomerId.Caption : txtCustomer.Tag;
-    });
+    Handled("GetCustomerForScheme",
+            [&] { szCustomer = nMode == mode::FromSalesConfirmation ? lblCustomerId.Caption : txtCustomer.Tag; });
     return szCustomer;
 }
 

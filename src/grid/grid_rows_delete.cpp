@@ -16,11 +16,11 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_BeforeDelete(int& nRow, bool& /*b
 
         if (!global.GetOCGEnabled()) {
             CheckScheme(nRow, true, grid);
-            for (const auto& [nCol, szValue] : {std::pair{colFreeItem, "0"}, std::pair{colFreeRow, "0"},
-                                                std::pair{colItemCheck, ""}, std::pair{colSplCatSerial, ""},
-                                                std::pair{colSchemeID, "0"}, std::pair{colSplCategoryScheme, "0"},
-                                                std::pair{colSplCatDiscPercent, "0"}, std::pair{colSplCatDiscAmount, "0"},
-                                                std::pair{colSplCatSchemeID, "0"}, std::pair{colSplCatCode, ""}})
+            for (const auto& [nCol, szValue] :
+                 {std::pair{colFreeItem, "0"}, std::pair{colFreeRow, "0"}, std::pair{colItemCheck, ""},
+                  std::pair{colSplCatSerial, ""}, std::pair{colSchemeID, "0"}, std::pair{colSplCategoryScheme, "0"},
+                  std::pair{colSplCatDiscPercent, "0"}, std::pair{colSplCatDiscAmount, "0"},
+                  std::pair{colSplCatSchemeID, "0"}, std::pair{colSplCatCode, ""}})
                 grid.SetCell(nRow, nCol, szValue);
             return;
         }
@@ -46,8 +46,7 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_BeforeDelete(int& nRow, bool& /*b
         } else {
             // The free row's link is taken as a row number here, as it always was.
             const double dLinked = number(nRow, colItemCheck);
-            if (dLinked >= 1 && dLinked <= grid.GridRows())
-                grid.SetCell(static_cast<int>(dLinked), colPrevQty, "");
+            if (dLinked >= 1 && dLinked <= grid.GridRows()) grid.SetCell(static_cast<int>(dLinked), colPrevQty, "");
         }
     });
 }
@@ -81,7 +80,8 @@ void Zuro_frmDispatch_Dispatch::AdjustRow(long nRemoved) {
         auto& grid = DTFlexDispatch;
         for (int nRow = 1; nRow <= grid.GridRows(); ++nRow) {
             const double dLink = host_.global.ToNumber(grid.GetCell(nRow, colItemCheck));
-            if (dLink > static_cast<double>(nRemoved)) grid.SetCell(nRow, colItemCheck, platform::NumberToText(dLink - 1));
+            if (dLink > static_cast<double>(nRemoved))
+                grid.SetCell(nRow, colItemCheck, platform::NumberToText(dLink - 1));
         }
     });
 }

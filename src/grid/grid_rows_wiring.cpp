@@ -18,7 +18,8 @@ void Zuro_frmDispatch_Dispatch::WireGridKeysAndRows() {
     using Self = Zuro_frmDispatch_Dispatch;
     RoutineBinder routines(routines_, *this);
     routines.Bind("getQuotient", &Self::getQuotient, {"nDividend", "nDivider"});
-    routines.Bind("GetApplicableQuantity", &Self::GetApplicableQuantity, {"dQuantity", "dAmount", "nSlabUnit", "dOnward"});
+    routines.Bind("GetApplicableQuantity", &Self::GetApplicableQuantity,
+                  {"dQuantity", "dAmount", "nSlabUnit", "dOnward"});
     routines.Bind("GetActualQuantity",
                   [this](long nRow, int nSlabUnit, double dOnward) {
                       return GetActualQuantity(nRow, nSlabUnit, dOnward, DTFlexDispatch);

@@ -14,14 +14,11 @@ void Zuro_frmDispatch_Dispatch::DTFlexDispatch_AfterColUpdate(int nRow, int nCol
                 // Items are keyed only on a new note and in an amendment.
                 if ((nMode == mode::NewDispatch || nMode == mode::Amendment) && !edit.ItemEntered(nCol)) return;
                 break;
-            case grid::colUOM:
-                edit.UnitChosen();
-                break;
+            case grid::colUOM: edit.UnitChosen(); break;
             case grid::colQuantity:
                 if (!edit.QuantityEntered()) return;
                 break;
-            default:
-                break;
+            default: break;
         }
         edit.CommonTail(nCol);
     });

@@ -10,7 +10,9 @@
 
 namespace grid {
 
-inline double CellValue(const platform::DTFlex& grid, int row, int col) { return platform::Val(grid.GetCell(row, col)); }
+inline double CellValue(const platform::DTFlex& grid, int row, int col) {
+    return platform::Val(grid.GetCell(row, col));
+}
 
 inline void SetCellNumber(platform::DTFlex& grid, int row, int col, double value) {
     grid.SetCell(row, col, platform::NumberToText(value));

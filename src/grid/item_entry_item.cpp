@@ -58,10 +58,12 @@ bool ItemEntryEdit::ItemInDispatchGroup(const std::string& szCode) {
     long nDSType = 0;
     form_.DSTypeCatMapped(form_.GetSalesmanID(), nDSType);
     platform::RecordsetPtr result =
-        nDSType > 0 ? global.RunProcedure("sp_CheckItemExists_DSType", {{platform::Value(nDSType), platform::adtype::Integer},
-                                                                        {platform::Value(szCode), platform::adtype::VarChar}})
-                    : global.RunProcedure("sp_CheckItemExists_QAX", {{platform::Value(form_.szGroupID), platform::adtype::VarChar},
-                                                                     {platform::Value(szCode), platform::adtype::VarChar}});
+        nDSType > 0
+            ? global.RunProcedure("sp_CheckItemExists_DSType", {{platform::Value(nDSType), platform::adtype::Integer},
+                                                                {platform::Value(szCode), platform::adtype::VarChar}})
+            : global.RunProcedure("sp_CheckItemExists_QAX",
+                                  {{platform::Value(form_.szGroupID), platform::adtype::VarChar},
+                                   {platform::Value(szCode), platform::adtype::VarChar}});
     result = global.NextRecordset(result);
     if (!result) throw platform::RuntimeError(platform::err::ObjectNotSet);
     const bool bExists = global.ToNumber(result->Fields(0)) != 0;

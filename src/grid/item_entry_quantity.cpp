@@ -57,8 +57,8 @@ bool ItemEntryEdit::QuantitySyntaxAccepted(double& dBaseQty) {
 void ItemEntryEdit::DropFreeRowsOfPrimary() {
     const std::string szSerial = platform::Trim(grid_.GetCell(nRow_, colSerialNo));
     for (int nFree = 1; nFree <= grid_.GridRows();) {
-        const bool bOwnFreeRow = CellValue(grid_, nFree, colFreeItem) == 1 &&
-                                 platform::Trim(grid_.GetCell(nFree, colItemCheck)) == szSerial;
+        const bool bOwnFreeRow =
+            CellValue(grid_, nFree, colFreeItem) == 1 && platform::Trim(grid_.GetCell(nFree, colItemCheck)) == szSerial;
         if (!bOwnFreeRow) {
             ++nFree;
             continue;

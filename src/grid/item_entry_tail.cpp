@@ -76,8 +76,10 @@ bool ItemEntryEdit::QuantityWithinStock(const std::string& szCode, const std::st
         const double dQty = bMultiUnit ? global.ConvertToDisplayUOM(szCode, szQuantity) : platform::Val(szQuantity);
         // With the batch list up the selected entry rules, in the list's own unit;
         // without it, what is free plus what this note already holds.
-        if (form_.FrameAvailable.Visible) return list.Count() > 0 && list.SelectedIndex() > 0 && SelectedEntryQuantity() >= dQty;
-        return CellValue(grid_, nRow_, colAvailableQty) + CellValue(grid_, nRow_, colStoredQty) >= dQty * form_.dUOMRate;
+        if (form_.FrameAvailable.Visible)
+            return list.Count() > 0 && list.SelectedIndex() > 0 && SelectedEntryQuantity() >= dQty;
+        return CellValue(grid_, nRow_, colAvailableQty) + CellValue(grid_, nRow_, colStoredQty) >=
+               dQty * form_.dUOMRate;
     }
 
     if ((form_.nBatchTrack == 1 || form_.nPriceOption == 1) && CellValue(grid_, nRow_, colAvailableQty) == 0 &&

@@ -35,7 +35,8 @@ void Zuro_frmDispatch_Dispatch::WireItemLookupAndUnits() {
     routines.Bind("CopyGridItems", [this] { CopyGridItems(DTFlexDispatch); }, {});
     routines.Bind("PasteGridItems", [this] { PasteGridItems(DTFlexDispatch); }, {});
     routines.Bind("FirstBlankGridRow", [this] { return FirstBlankGridRow(DTFlexDispatch); }, {});
-    routines.Bind("FindQuantityColumn", [this](long nRow) { return FindQuantityColumn(DTFlexDispatch, nRow); }, {"nRow"});
+    routines.Bind("FindQuantityColumn", [this](long nRow) { return FindQuantityColumn(DTFlexDispatch, nRow); },
+                  {"nRow"});
     routines.Bind("GetGridQuantity", [this](long nRow) { return GetGridQuantity(DTFlexDispatch, nRow); }, {"nRow"});
 }
 

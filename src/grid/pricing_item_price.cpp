@@ -30,7 +30,8 @@ void Zuro_frmDispatch_Dispatch::GetItemPrice(const std::string& szItemCode, long
         // Sale_Price is read with the rest but a dispatch never sells at it.
         auto item = global.GetConnection().Execute(
             "SELECT Track_Batches, Sale_Price, Price_Option, Track_Inventory, PTS, PTR, Company_Price FROM Items, "
-            "ItemCategories WHERE Product_Code = N'" + szItemCode + "' AND ItemCategories.CategoryID = Items.CategoryID");
+            "ItemCategories WHERE Product_Code = N'" +
+            szItemCode + "' AND ItemCategories.CategoryID = Items.CategoryID");
         if (item->Eof()) {
             item->Close();
             return;
@@ -64,10 +65,9 @@ void Zuro_frmDispatch_Dispatch::GetItemProperty(const std::string& szItemCode, l
         }
         auto& global = host_.global;
         nValue = static_cast<long>(global.ToNumber(global.LookupValue(
-            global.GetConnection(), std::string("SELECT ") + field +
-                                        " FROM Items, ItemCategories WHERE Product_Code = N'" +
-                                        global.EscapeQuotes(szItemCode) +
-                                        "' AND ItemCategories.CategoryID = Items.CategoryID")));
+            global.GetConnection(),
+            std::string("SELECT ") + field + " FROM Items, ItemCategories WHERE Product_Code = N'" +
+                global.EscapeQuotes(szItemCode) + "' AND ItemCategories.CategoryID = Items.CategoryID")));
     });
 }
 

@@ -93,7 +93,8 @@ void Zuro_frmDispatch_Dispatch::CycleUOM() {
         global.SetListGuard(true);
         try {
             DTFlexDispatch.SetCell(row, grid::colUOM, lstUOM.List(nNext));
-            DTFlexDispatch.SetCell(row, grid::colUOMID, platform::NumberToText(static_cast<double>(lstUOM.ItemData(nNext))));
+            DTFlexDispatch.SetCell(row, grid::colUOMID,
+                                   platform::NumberToText(static_cast<double>(lstUOM.ItemData(nNext))));
             lstUOM.SetListIndex(nNext);
         } catch (...) {
             global.SetListGuard(false);

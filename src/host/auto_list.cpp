@@ -67,14 +67,9 @@ void PlainAutoList::ListKeyDown(int& keyCode, int /*shift*/, int swallowArrows) 
             break;
         // Enter and Escape go on to the box's own handler: the screen's Enter logic
         // runs on the text the pick has just written.
-        case keys::Enter:
-            PickSelected();
-            break;
-        case keys::Escape:
-            HideList();
-            break;
-        default:
-            break;
+        case keys::Enter: PickSelected(); break;
+        case keys::Escape: HideList(); break;
+        default: break;
     }
 }
 

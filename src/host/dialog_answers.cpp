@@ -20,7 +20,8 @@ std::string DialogAnswers::Problem(const std::string& dialog, const std::vector<
         if (auto problem = CountProblem(dialog, values, 1, "one button code"); !problem.empty()) return problem;
         long code = 0;
         if (!ParseInteger(values[0], code) || code < 1 || code > 7)
-            return "AskMessage takes a button code from 1 to 7 (1 ok, 2 cancel, 6 yes, 7 no), not \"" + values[0] + "\"";
+            return "AskMessage takes a button code from 1 to 7 (1 ok, 2 cancel, 6 yes, 7 no), not \"" + values[0] +
+                   "\"";
         return {};
     }
     if (dialog == "InputPassword" || dialog == "InputBoxE")
@@ -42,8 +43,7 @@ std::string DialogAnswers::Problem(const std::string& dialog, const std::vector<
     }
     if (dialog == "ShowMemoDialog") {
         // Three memo texts and the button; a lone button leaves the memos as they are.
-        if (values.size() != 4 && values.size() != 1)
-            return "ShowMemoDialog takes three texts and then ok or cancel";
+        if (values.size() != 4 && values.size() != 1) return "ShowMemoDialog takes three texts and then ok or cancel";
         if (values.back() != "ok" && values.back() != "cancel")
             return "ShowMemoDialog ends with ok or cancel, not \"" + values.back() + "\"";
         return {};

@@ -22,14 +22,14 @@ platform::Value PlainGlobal::LookupValue(platform::Connection& connection, const
     return value;
 }
 
-std::string PlainGlobal::LookupName(const std::string& table, const std::string& keyField,
-                                    const std::string& nameField, const std::string& keyValue) {
+std::string PlainGlobal::LookupName(const std::string& table, const std::string& keyField, const std::string& nameField,
+                                    const std::string& keyValue) {
     return platform::ToText(LookupValue(*state_.connection, "Select " + nameField + " From " + table + " Where " +
                                                                 keyField + " = " + SqlText(keyValue)));
 }
 
-std::string PlainGlobal::LookupCode(const std::string& table, const std::string& keyField,
-                                    const std::string& nameField, const std::string& nameValue) {
+std::string PlainGlobal::LookupCode(const std::string& table, const std::string& keyField, const std::string& nameField,
+                                    const std::string& nameValue) {
     return platform::ToText(LookupValue(*state_.connection, "Select " + keyField + " From " + table + " Where " +
                                                                 nameField + " = " + SqlText(nameValue)));
 }

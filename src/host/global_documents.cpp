@@ -9,16 +9,16 @@
 namespace host {
 
 std::string PlainGlobal::GetDefaultDocumentType(int transactionType) {
-    return platform::ToText(LookupValue(*state_.connection,
-                                        "Select DocumentType From TransactionDocNumber Where TransactionType = " +
-                                            std::to_string(transactionType) +
-                                            " And Active = 1 And IsDefault = 1 Order By DocumentType"));
+    return platform::ToText(LookupValue(
+        *state_.connection,
+        "Select DocumentType From TransactionDocNumber Where TransactionType = " + std::to_string(transactionType) +
+            " And Active = 1 And IsDefault = 1 Order By DocumentType"));
 }
 
 std::string PlainGlobal::GetNextDocumentReference(const std::string& documentType, int transactionType) {
-    auto rs = state_.connection->Execute(
-        "Select Prefix, LastCount From TransactionDocNumber Where TransactionType = " +
-        std::to_string(transactionType) + " And DocumentType = " + SqlText(documentType));
+    auto rs =
+        state_.connection->Execute("Select Prefix, LastCount From TransactionDocNumber Where TransactionType = " +
+                                   std::to_string(transactionType) + " And DocumentType = " + SqlText(documentType));
     if (!rs || !rs->IsOpen() || rs->Eof()) return {};
     std::string reference =
         platform::ToText(rs->Fields(0)) + platform::NumberToText(platform::ToNumber(rs->Fields(1)) + 1);

@@ -63,10 +63,14 @@ void PlainGlobal::HandleDateShortcut(host_services::HostedForm& form, int& keyCo
     if (!active || active->Kind() != platform::ControlKind::DatePicker) return;
     auto& picker = static_cast<platform::DatePicker&>(*active);
     platform::Date wanted = picker.Value;
-    if (keyCode == keys::PadPlus && shift == keys::NoShift) wanted.serial += 1;
-    else if (keyCode == keys::PadMinus && shift == keys::NoShift) wanted.serial -= 1;
-    else if (keyCode == keys::T && shift == keys::CtrlMask) wanted = platform::DateOnly(state_.serverDate);
-    else return;
+    if (keyCode == keys::PadPlus && shift == keys::NoShift)
+        wanted.serial += 1;
+    else if (keyCode == keys::PadMinus && shift == keys::NoShift)
+        wanted.serial -= 1;
+    else if (keyCode == keys::T && shift == keys::CtrlMask)
+        wanted = platform::DateOnly(state_.serverDate);
+    else
+        return;
     keyCode = 0;
     if (wanted.serial < picker.MinDate.serial || wanted.serial > picker.MaxDate.serial || wanted == picker.Value)
         return;

@@ -15,7 +15,9 @@ int PlainGlobal::GetPrinterService() { return static_cast<int>(state_.settings.I
 int PlainGlobal::GetCloseDayMode() { return static_cast<int>(state_.settings.Integer("GetCloseDayMode")); }
 std::string PlainGlobal::GetFormOneCaption() { return state_.settings.Text("GetFormOneCaption"); }
 std::string PlainGlobal::GetFormTwoCaption() { return state_.settings.Text("GetFormTwoCaption"); }
-int PlainGlobal::GetItemListScreenNumber() { return static_cast<int>(state_.settings.Integer("GetItemListScreenNumber")); }
+int PlainGlobal::GetItemListScreenNumber() {
+    return static_cast<int>(state_.settings.Integer("GetItemListScreenNumber"));
+}
 std::string PlainGlobal::GetIniFilePath() { return state_.settings.Text("GetIniFilePath"); }
 int PlainGlobal::GetCustomerFormMode() { return static_cast<int>(state_.settings.Integer("GetCustomerFormMode")); }
 

@@ -18,7 +18,10 @@ platform::Date Today() {
 
 HostState::HostState(platform::ConnectionPtr connection_, Settings& settings_, Transcript& transcript_,
                      DialogAnswers& answers_)
-    : connection(std::move(connection_)), settings(settings_), transcript(transcript_), answers(answers_),
+    : connection(std::move(connection_)),
+      settings(settings_),
+      transcript(transcript_),
+      answers(answers_),
       serverDate(Today()) {
     if (!connection) throw std::invalid_argument("the plain host needs an open connection");
 }

@@ -38,11 +38,10 @@ host_services::HostServices PlainHost::Services() {
     auto registry = impl_->state.lists;
     // The lists share the connection and the registry, not the host: a screen may
     // let go of its lists after the host is gone.
-    return host_services::HostServices{
-        impl_->global, impl_->messages, impl_->tools, impl_->mainForm,
-        [connection, registry]() -> std::unique_ptr<host_services::AutoList> {
-            return std::make_unique<PlainAutoList>(connection, registry);
-        }};
+    return host_services::HostServices{impl_->global, impl_->messages, impl_->tools, impl_->mainForm,
+                                       [connection, registry]() -> std::unique_ptr<host_services::AutoList> {
+                                           return std::make_unique<PlainAutoList>(connection, registry);
+                                       }};
 }
 
 host_services::HostContext& PlainHost::Context() { return impl_->context; }

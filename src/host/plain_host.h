@@ -8,11 +8,11 @@
 #include <string>
 #include <vector>
 
-#include "platform/database.h"
-#include "screen/host_services/host_services.h"
 #include "host/dialog_answers.h"
 #include "host/settings.h"
 #include "host/transcript.h"
+#include "platform/database.h"
+#include "screen/host_services/host_services.h"
 
 namespace host {
 
@@ -21,7 +21,7 @@ class OpenList {
 public:
     virtual ~OpenList() = default;
     virtual std::vector<std::string> RowTexts() const = 0;  // the shown text of each row
-    virtual void Pick(int row) = 0;  // row from 1: its text and key land in the box
+    virtual void Pick(int row) = 0;                         // row from 1: its text and key land in the box
 };
 
 class PlainHost {

@@ -9,12 +9,12 @@ namespace host {
 int DefaultAnswer(int buttons) {
     using namespace host_services::msgbox;
     switch (buttons & 0x0F) {
-        case 1: return AnswerOk;      // ok, cancel
-        case 2: return 3;             // abort, retry, ignore: abort
-        case 3:                       // yes, no, cancel
-        case 4: return AnswerYes;     // yes, no
-        case 5: return 4;             // retry, cancel: retry
-        default: return AnswerOk;     // ok only
+        case 1: return AnswerOk;   // ok, cancel
+        case 2: return 3;          // abort, retry, ignore: abort
+        case 3:                    // yes, no, cancel
+        case 4: return AnswerYes;  // yes, no
+        case 5: return 4;          // retry, cancel: retry
+        default: return AnswerOk;  // ok only
     }
 }
 

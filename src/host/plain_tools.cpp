@@ -30,13 +30,14 @@ bool PlainTools::CheckCloseDay(platform::Date date, int) {
     auto opening = platform::ParseIsoDate(state_.settings.Text("GetOpeningDate"));
     bool beforeOpening = opening && platform::DateOnly(date).serial < opening->serial;
     if (beforeOpening) {
-        state_.transcript.Status("Transactions cannot be posted before the opening date " +
-                                     platform::DateToText(*opening) + ".", 1);
+        state_.transcript.Status(
+            "Transactions cannot be posted before the opening date " + platform::DateToText(*opening) + ".", 1);
         return false;
     }
     if (!open) {
         state_.transcript.Status("Day close has been done for " + platform::DateToText(platform::DateOnly(date)) +
-                                     ". Transactions cannot be posted to it.", 1);
+                                     ". Transactions cannot be posted to it.",
+                                 1);
         return false;
     }
     return true;
@@ -55,8 +56,8 @@ void PlainTools::ShowPrintDialog(const std::string& settingsFile, const std::str
                                  const std::string& documentKind, long, int answeredYes) {
     std::string file = printer_.Print({settingsFile, abstractProcedure, detailProcedure, documentKind, key},
                                       state_.settings.Text("OutputFolder"));
-    state_.transcript.Print(documentKind + " " + key + " -> " + file + " (dialog, flag " +
-                            std::to_string(answeredYes) + ")");
+    state_.transcript.Print(documentKind + " " + key + " -> " + file + " (dialog, flag " + std::to_string(answeredYes) +
+                            ")");
 }
 
 void PlainTools::PrintDirect(const std::string& settingsFile, const std::string& abstractProcedure,
@@ -132,8 +133,7 @@ bool PlainTools::SelectScheme(const platform::RecordsetPtr& schemes, long& schem
     return false;
 }
 
-bool PlainTools::SelectFreeItem(long schemeID, const std::string& schemeName, long slabID,
-                                std::string& freeItemCode) {
+bool PlainTools::SelectFreeItem(long schemeID, const std::string& schemeName, long slabID, std::string& freeItemCode) {
     DialogReply reply = TakeReply(state_.answers, "SelectFreeItem");
     bool chosen = !reply.byDefault && reply.values[0] != "none";
     if (chosen) freeItemCode = reply.values[0];
@@ -166,10 +166,9 @@ void PlainTools::ShowNotFoundDialog(const std::string& text) {
 
 void PlainTools::ShowDocumentInfoDialog(const std::vector<std::string>& items, const std::string& customer,
                                         const std::string& serial, const std::string& group) {
-    state_.transcript.Dialog("ShowDocumentInfoDialog",
-                             QuoteText(customer) + " " + QuoteText(serial) + " " + QuoteText(group) + " [" +
-                                 JoinTexts(items) + "]",
-                             "ok");
+    state_.transcript.Dialog(
+        "ShowDocumentInfoDialog",
+        QuoteText(customer) + " " + QuoteText(serial) + " " + QuoteText(group) + " [" + JoinTexts(items) + "]", "ok");
 }
 
 bool PlainTools::ShowMemoDialog(std::string& memo1, std::string& memo2, std::string& memo3, bool readOnly, int) {

@@ -25,8 +25,7 @@ public:
                          const std::string& detailProcedure, const std::string& key, const std::string& documentKind,
                          long hwnd, int answeredYes) override;
     void PrintDirect(const std::string& settingsFile, const std::string& abstractProcedure,
-                     const std::string& detailProcedure, long hwnd, const std::string& documentKind,
-                     long key) override;
+                     const std::string& detailProcedure, long hwnd, const std::string& documentKind, long key) override;
 
     void ShowItemSchemes(const std::string& itemCode, platform::Date date, const std::string& customer,
                          const std::vector<double>& totals, long dispatchID) override;

@@ -112,8 +112,7 @@ std::string SettingValueProblem(const SettingInfo& setting, const std::string& v
             if (!value.empty() && !platform::ParseIsoDate(value))
                 return setting.name + " takes a date as YYYY-MM-DD, not \"" + value + "\"";
             return {};
-        case SettingKind::Text:
-            return {};
+        case SettingKind::Text: return {};
     }
     return {};
 }

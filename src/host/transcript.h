@@ -23,16 +23,16 @@ public:
     // Every line as it is added (the session driver prints them as they come).
     std::function<void(const std::string&)> onLine;
 
-    void Status(const std::string& text, int flag);              // "status FLAG TEXT"
+    void Status(const std::string& text, int flag);                                 // "status FLAG TEXT"
     void Message(int buttons, const std::string& text, const std::string& answer);  // "message B \"T\" -> A"
     // "NAME DETAIL -> ANSWER"; the dialog's name stands where a message box has "message".
     void Dialog(const std::string& name, const std::string& detail, const std::string& answer);
-    void Numbered(long number);                                  // "numbered N"
-    void Focus(const std::string& control);                      // "focus CONTROL"
-    void Error(long number, const std::string& text);            // "error N TEXT"
-    void Print(const std::string& detail);                       // "print ..."
-    void Sql(const std::string& text);                           // "sql ..." (tracing)
-    void Proc(const std::string& text);                          // "proc ..." (tracing)
+    void Numbered(long number);                        // "numbered N"
+    void Focus(const std::string& control);            // "focus CONTROL"
+    void Error(long number, const std::string& text);  // "error N TEXT"
+    void Print(const std::string& detail);             // "print ..."
+    void Sql(const std::string& text);                 // "sql ..." (tracing)
+    void Proc(const std::string& text);                // "proc ..." (tracing)
     void Line(const std::string& line);
 
     const std::vector<std::string>& Lines() const { return lines_; }

@@ -19,9 +19,12 @@ std::optional<double> ParseCount(const std::string& part) {
     std::string text = platform::Trim(part);
     bool digit = false, point = false;
     for (char c : text) {
-        if (std::isdigit(static_cast<unsigned char>(c))) digit = true;
-        else if (c == '.' && !point) point = true;
-        else return std::nullopt;
+        if (std::isdigit(static_cast<unsigned char>(c)))
+            digit = true;
+        else if (c == '.' && !point)
+            point = true;
+        else
+            return std::nullopt;
     }
     if (!digit) return std::nullopt;
     return platform::Val(text);
@@ -30,8 +33,10 @@ std::optional<double> ParseCount(const std::string& part) {
 std::vector<std::string> SplitOnStar(const std::string& text) {
     std::vector<std::string> parts(1);
     for (char c : text) {
-        if (c == '*') parts.emplace_back();
-        else parts.back() += c;
+        if (c == '*')
+            parts.emplace_back();
+        else
+            parts.back() += c;
     }
     return parts;
 }

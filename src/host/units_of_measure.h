@@ -14,8 +14,8 @@
 namespace host {
 
 struct UnitLevel {
-    long uom = 0;      // the unit's identifier; 0 when the item has no unit here
-    double rate = 0;   // base units in one such unit; 0 when absent
+    long uom = 0;     // the unit's identifier; 0 when the item has no unit here
+    double rate = 0;  // base units in one such unit; 0 when absent
     bool Present() const { return uom != 0 && rate > 0; }
 };
 

@@ -67,8 +67,8 @@ void Zuro_frmDispatch_Dispatch::txtBeat_KeyDown(int& KeyCode, int Shift) {
                 }
             }
 
-            const bool bBeatUnchanged = nPrevBeatID != 0 && platform::ToNumber(txtBeat.Tag) == nPrevBeatID &&
-                                        txtBeat.Text() == szPrevBeatName;
+            const bool bBeatUnchanged =
+                nPrevBeatID != 0 && platform::ToNumber(txtBeat.Tag) == nPrevBeatID && txtBeat.Text() == szPrevBeatName;
             const bool bCustomerUnchanged =
                 txtCustomer.Tag == szPrevCustomerCode && txtCustomer.Text() == szPrevCustomerName;
             if (bBeatUnchanged && bCustomerUnchanged) {

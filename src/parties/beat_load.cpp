@@ -20,12 +20,12 @@ void Zuro_frmDispatch_Dispatch::LoadBeat() {
         auto& list = parties::BeatList(*this, host_);
         const double nSalesman = GetSalesmanID();
 
-        auto counted = connection.Execute(
-            "Select Count(Distinct BeatID) From dbo.Fn_Get_MappedSalemanBeatAndCustomer_QAX(" +
-            MappingArguments(nSalesman, global.EscapeQuotes(txtCustomer.Text())) +
-            "') Where IsNull(BeatName,'') <> '' ");
-        const bool bCustomerOnNoBeat = counted && counted->IsOpen() && !counted->Eof() &&
-                                       platform::ToNumber(counted->Fields(0)) == 0;
+        auto counted =
+            connection.Execute("Select Count(Distinct BeatID) From dbo.Fn_Get_MappedSalemanBeatAndCustomer_QAX(" +
+                               MappingArguments(nSalesman, global.EscapeQuotes(txtCustomer.Text())) +
+                               "') Where IsNull(BeatName,'') <> '' ");
+        const bool bCustomerOnNoBeat =
+            counted && counted->IsOpen() && !counted->Eof() && platform::ToNumber(counted->Fields(0)) == 0;
         if (counted && counted->IsOpen()) counted->Close();
         if (bCustomerOnNoBeat) ClearCustomer();
 

@@ -12,8 +12,8 @@ constexpr long kMessageGroupChange = 10;
 constexpr long kMessageCategoryChange = 11;
 
 std::string StoredMessage(host_services::HostGlobal& global, long nMessage) {
-    return platform::ToText(global.LookupValue(global.GetConnection(), "Select Message From ErrorMessages Where ErrorID = " +
-                                                                           std::to_string(nMessage)));
+    return platform::ToText(global.LookupValue(
+        global.GetConnection(), "Select Message From ErrorMessages Where ErrorID = " + std::to_string(nMessage)));
 }
 }  // namespace
 
@@ -110,8 +110,7 @@ void Zuro_frmDispatch_Dispatch::CheckForGroupChange(const std::string& szGroup, 
                     parties::WriteBox(txtCategory, szPrevName, szPrevGroupID);
                     txtCategory.SetFocus();
                     break;
-                default:
-                    break;
+                default: break;
             }
         } else if (nAnswer == host_services::msgbox::AnswerYes) {
             bGroupReset = true;
@@ -127,8 +126,8 @@ void Zuro_frmDispatch_Dispatch::ResetCatGrp() {
         if (platform::Val(szGroup) != 0) {
             szItemCodeQuery = "Select Product_Code,Product_Code From dbo.Sp_Get_Items_QAX('" + szGroup +
                               "') Where Product_Code Like '";
-            szItemNameQuery = "Select Product_Code,ProductName From dbo.Sp_Get_Items_QAX('" + szGroup +
-                              "') Where ProductName Like '";
+            szItemNameQuery =
+                "Select Product_Code,ProductName From dbo.Sp_Get_Items_QAX('" + szGroup + "') Where ProductName Like '";
         } else {
             szItemCodeQuery.clear();
             szItemNameQuery.clear();

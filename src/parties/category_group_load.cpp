@@ -56,8 +56,7 @@ void Zuro_frmDispatch_Dispatch::LoadCategoryGroup(long nInd) {
 
         auto writeSingleGroup = [&] {
             txtCategory.Tag = szFirstID;
-            txtCategory.SetText(
-                global.LookupName("ProductCategoryGroupAbstract", "GroupID", "GroupName", szFirstID));
+            txtCategory.SetText(global.LookupName("ProductCategoryGroupAbstract", "GroupID", "GroupName", szFirstID));
         };
         if (szPrevGroupName.empty()) {
             writeSingleGroup();

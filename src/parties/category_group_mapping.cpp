@@ -35,9 +35,9 @@ void Zuro_frmDispatch_Dispatch::DSTypeCatMapped(long nSalesmanID, long& nResult)
 
 void Zuro_frmDispatch_Dispatch::GroupExistsForSalesman(long nSalesmanID, const std::string& szGroup, long& nResult) {
     Handled("GroupExistsForSalesman", [&] {
-        if (auto value = FirstValue(host_.global.RunProcedure(
-                "Sp_CheckGroupExistsForSalesman",
-                {Int(nSalesmanID), {platform::Value(szGroup), platform::adtype::VarChar}})))
+        if (auto value = FirstValue(
+                host_.global.RunProcedure("Sp_CheckGroupExistsForSalesman",
+                                          {Int(nSalesmanID), {platform::Value(szGroup), platform::adtype::VarChar}})))
             nResult = platform::CLng(*value);
     });
 }

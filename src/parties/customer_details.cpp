@@ -16,7 +16,8 @@ void Zuro_frmDispatch_Dispatch::LoadCustomerAdd() {
             !szID.empty()
                 ? "Select top 1 BillingAddress,ShippingAddress, CustomerCategory from customer Where CustomerID = N'" +
                       szID + "'"
-                : "Select top 1 BillingAddress,ShippingAddress, CustomerCategory from customer Where Company_Name = N'" +
+                : "Select top 1 BillingAddress,ShippingAddress, CustomerCategory from customer Where Company_Name = "
+                  "N'" +
                       szName + "'";
         auto customer = global.GetConnection().Execute(sql);
         if (!customer->Eof()) {
@@ -49,8 +50,9 @@ long Zuro_frmDispatch_Dispatch::GetCustomerCategory(const std::string& szCustome
     long category = 0;
     Handled("GetCustomerCategory", [&] {
         auto& global = host_.global;
-        category = static_cast<long>(global.ToNumber(global.LookupValue(
-            global.GetConnection(), "SELECT CustomerCategory FROM Customer WHERE CustomerID = N'" + szCustomerID + "'")));
+        category = static_cast<long>(global.ToNumber(
+            global.LookupValue(global.GetConnection(),
+                               "SELECT CustomerCategory FROM Customer WHERE CustomerID = N'" + szCustomerID + "'")));
     });
     return category;
 }

@@ -33,9 +33,10 @@ void Zuro_frmDispatch_Dispatch::LoadCustomerInfo() {
             sql = "Select [BillingAddress],[ShippingAddress] from [POAbstractReceived] Where [PONumber]  in (" +
                   szPONumbers + ")";
         } else if (nMode == mode::FromSalesConfirmation || nMode == mode::FromAlert) {
-            sql = "Select [BillingAddress],[ShippingAddress],IsNull([SalesmanID],0),IsNull([BeatID],0),"
-                  "IsNull([GroupID],-1) from [SOAbstract] Where [SONumber]  in (" +
-                  szDocNumbers + ")";
+            sql =
+                "Select [BillingAddress],[ShippingAddress],IsNull([SalesmanID],0),IsNull([BeatID],0),"
+                "IsNull([GroupID],-1) from [SOAbstract] Where [SONumber]  in (" +
+                szDocNumbers + ")";
             txtSalesman.Enabled = false;
             txtBeat.Enabled = false;
             txtCategory.Enabled = false;
@@ -55,8 +56,9 @@ void Zuro_frmDispatch_Dispatch::LoadCustomerInfo() {
             if (nMode != mode::FromSalesConfirmation) {
                 SetDefaultSalesman(static_cast<long>(global.ToNumber(rows->Fields(2))));
             } else {
-                auto salesman = global.NextRecordset(global.RunProcedure(
-                    "Sp_Get_BeatSalesMan_Cust_QAX", {{global.ToNumber(platform::Value(szDocNumbers)), platform::adtype::Integer}}));
+                auto salesman = global.NextRecordset(
+                    global.RunProcedure("Sp_Get_BeatSalesMan_Cust_QAX",
+                                        {{global.ToNumber(platform::Value(szDocNumbers)), platform::adtype::Integer}}));
                 double nSalesmanID = 0;
                 if (salesman && salesman->IsOpen() && !salesman->Eof())
                     nSalesmanID = global.ToNumber(salesman->Fields("SalesmanID"));
@@ -64,7 +66,8 @@ void Zuro_frmDispatch_Dispatch::LoadCustomerInfo() {
                     nSalesmanID = global.ToNumber(rows->Fields(2));
                 if (nSalesmanID != 0) SetDefaultSalesman(static_cast<long>(nSalesmanID));
             }
-            if (global.ToNumber(rows->Fields(3)) > 0) SetDefaultBeat(static_cast<long>(global.ToNumber(rows->Fields(3))));
+            if (global.ToNumber(rows->Fields(3)) > 0)
+                SetDefaultBeat(static_cast<long>(global.ToNumber(rows->Fields(3))));
             const std::string group = global.ToText(rows->Fields(4));
             if (!platform::Trim(group).empty()) {
                 SetDefaultCatGroup(group);

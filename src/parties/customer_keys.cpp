@@ -14,8 +14,8 @@ constexpr const char* kSelectExisting = "Select an existing Customer.";
 
 // The part of Enter that both boxes share. nSource is 1 for the name box and 2 for
 // the code box; pressKey runs the box's own key-press handler by hand.
-static void CustomerEnter(Zuro_frmDispatch_Dispatch& form, host_services::HostServices& host,
-                          platform::TextBox& box, void (Zuro_frmDispatch_Dispatch::*pressKey)(int&)) {
+static void CustomerEnter(Zuro_frmDispatch_Dispatch& form, host_services::HostServices& host, platform::TextBox& box,
+                          void (Zuro_frmDispatch_Dispatch::*pressKey)(int&)) {
     auto& global = host.global;
     const bool onEntryPage = box.Container != &form.Frame1(1);
     if (box.Tag.empty()) {
@@ -71,9 +71,7 @@ static void CustomerEnter(Zuro_frmDispatch_Dispatch& form, host_services::HostSe
             if (!box.Text().empty() && form.txtSalesman.Tag.empty()) form.txtSalesman.SetFocus();
             if (!box.Tag.empty()) form.LoadCustomerAdd();
             break;
-        default:
-            form.lstSO.SetFocus();
-            break;
+        default: form.lstSO.SetFocus(); break;
     }
 }
 

@@ -44,8 +44,8 @@ constexpr CustomerBoxList kByCode{"CustomerID", "Customer ID", "Select Distinct 
 
 // The change handler of either customer box: the list follows the box and opens
 // with what was typed.
-static void ShowCustomerList(Zuro_frmDispatch_Dispatch& form, host_services::HostGlobal& global,
-                             platform::TextBox& box, const CustomerBoxList& kind) {
+static void ShowCustomerList(Zuro_frmDispatch_Dispatch& form, host_services::HostGlobal& global, platform::TextBox& box,
+                             const CustomerBoxList& kind) {
     const double nSalesman = global.ToNumber(form.txtSalesman.Tag);
     const double nBeat = global.ToNumber(form.txtBeat.Tag);
     const std::string szGroup;

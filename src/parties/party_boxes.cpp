@@ -9,7 +9,8 @@ platform::TextBox& CustomerBox(screen::Zuro_frmDispatch_Dispatch& form, host_ser
     return global.GetCustomerNameFirst() ? form.txtCustomer : form.txtCustomerID;
 }
 
-host_services::AutoList& SalesmanList(screen::Zuro_frmDispatch_Dispatch& form, const host_services::HostServices& host) {
+host_services::AutoList& SalesmanList(screen::Zuro_frmDispatch_Dispatch& form,
+                                      const host_services::HostServices& host) {
     return PartyList(form.objSalesmanList, host.newAutoList, form, form.txtSalesman);
 }
 

@@ -18,8 +18,8 @@ void Zuro_frmDispatch_Dispatch::LoadCustomer() {
             parties::SqlNumber(GetSalesmanID()) + "," + parties::SqlNumber(GetBeatID()) + ",''" +
             ") Where IsNull(Company_Name,'') <> '' And Company_Name Like '%%' Order By Company_Name";
         const bool bCustomerFilled = !platform::Trim(txtCustomer.Text()).empty() && !txtCustomer.Tag.empty();
-        const parties::Candidates found =
-            parties::WalkCandidates(global.GetConnection(), szSQL, [&](const std::string& key, const std::string& name) {
+        const parties::Candidates found = parties::WalkCandidates(
+            global.GetConnection(), szSQL, [&](const std::string& key, const std::string& name) {
                 return bCustomerFilled && key == szPrevCustomerCode && name == szPrevCustomerName;
             });
 

@@ -16,9 +16,8 @@ bool Zuro_frmDispatch_Dispatch::ValidSalesman() {
 
 bool Zuro_frmDispatch_Dispatch::ValidBeat() {
     bool bValid = false;
-    Handled("ValidBeat", [&] {
-        bValid = !host_.global.LookupCode("Beat", "BeatID", "Description", txtBeat.Text()).empty();
-    });
+    Handled("ValidBeat",
+            [&] { bValid = !host_.global.LookupCode("Beat", "BeatID", "Description", txtBeat.Text()).empty(); });
     return bValid;
 }
 
@@ -38,9 +37,9 @@ bool Zuro_frmDispatch_Dispatch::ValidCatGroup() {
 bool Zuro_frmDispatch_Dispatch::isBeatDeactivated(long nBeatID) {
     bool bDeactivated = false;
     Handled("isBeatDeactivated", [&] {
-        auto rs = host_.global.RunProcedure(
-            "sp_Validate_ActiveBeat",
-            {{platform::Value(static_cast<double>(nBeatID)), platform::adtype::Double}, {platform::Value(1), platform::adtype::Integer}});
+        auto rs = host_.global.RunProcedure("sp_Validate_ActiveBeat",
+                                            {{platform::Value(static_cast<double>(nBeatID)), platform::adtype::Double},
+                                             {platform::Value(1), platform::adtype::Integer}});
         if (rs && rs->IsOpen() && !rs->Eof()) bDeactivated = platform::ToNumber(rs->Fields(0)) == 0;
         if (rs && rs->IsOpen()) rs->Close();
     });

@@ -92,8 +92,7 @@ void Zuro_frmDispatch_Dispatch::txtSalesman_LostFocus() {
 
         // A name typed in full, not chosen from the list, is taken when the master
         // knows it.
-        const std::string szCode =
-            global.LookupCode("Salesman", "SalesmanID", "Salesman_Name", txtSalesman.Text());
+        const std::string szCode = global.LookupCode("Salesman", "SalesmanID", "Salesman_Name", txtSalesman.Text());
         if (platform::ToNumber(szCode) == 0) {
             global.ShowNumberedMessage(6, 1, {});
             ClearSalesman();

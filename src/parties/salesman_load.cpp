@@ -15,14 +15,15 @@ void Zuro_frmDispatch_Dispatch::LoadSalesman() {
             std::string("0") + "," + parties::SqlNumber(platform::ToNumber(txtBeat.Tag)) + ",'" +
             global.EscapeQuotes(txtCustomer.Text()) +
             "') Where IsNull(Salesman_Name,'') <> '' And Salesman_Name Like '%%' Order By Salesman_Name";
-        const parties::Candidates found =
-            parties::WalkCandidates(global.GetConnection(), szSQL, [&](const std::string& key, const std::string& name) {
+        const parties::Candidates found = parties::WalkCandidates(
+            global.GetConnection(), szSQL, [&](const std::string& key, const std::string& name) {
                 return platform::ToNumber(key) == nPrevSalesmanID && name == szPrevSalesmanName;
             });
 
         if (found.previousFound) {
             parties::ProgramWrite writing({&list});
-            parties::WriteBox(txtSalesman, szPrevSalesmanName, platform::ToText(platform::Value(long{nPrevSalesmanID})));
+            parties::WriteBox(txtSalesman, szPrevSalesmanName,
+                              platform::ToText(platform::Value(long{nPrevSalesmanID})));
             return;
         }
         // A single salesman that were the previous one would have been found above.

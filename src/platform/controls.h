@@ -23,7 +23,18 @@ public:
     virtual void MoveFocus(Control& to) = 0;
 };
 
-enum class ControlKind { TextBox, Label, ComboBox, ListBox, ListView, DatePicker, CommandButton, Frame, CheckBox, Grid };
+enum class ControlKind {
+    TextBox,
+    Label,
+    ComboBox,
+    ListBox,
+    ListView,
+    DatePicker,
+    CommandButton,
+    Frame,
+    CheckBox,
+    Grid
+};
 
 class Control {
 public:
@@ -34,8 +45,8 @@ public:
 
     ControlKind Kind() const { return kind_; }
     const std::string& Name() const { return name_; }
-    int Index() const { return index_; }     // -1 when the control is not in an array
-    std::string FullName() const;            // "cmdClose(1)", "txtCustomer"
+    int Index() const { return index_; }  // -1 when the control is not in an array
+    std::string FullName() const;         // "cmdClose(1)", "txtCustomer"
 
     bool Visible = true;
     bool Enabled = true;
@@ -67,25 +78,33 @@ private:
 
 class Label : public Control {
 public:
-    Label(FocusScope& scope, std::string name, int index = -1) : Control(scope, ControlKind::Label, std::move(name), index) { TabStop = false; }
+    Label(FocusScope& scope, std::string name, int index = -1)
+        : Control(scope, ControlKind::Label, std::move(name), index) {
+        TabStop = false;
+    }
     std::string Caption;
 };
 
 class Frame : public Control {
 public:
-    Frame(FocusScope& scope, std::string name, int index = -1) : Control(scope, ControlKind::Frame, std::move(name), index) { TabStop = false; }
+    Frame(FocusScope& scope, std::string name, int index = -1)
+        : Control(scope, ControlKind::Frame, std::move(name), index) {
+        TabStop = false;
+    }
     std::string Caption;
 };
 
 class CommandButton : public Control {
 public:
-    CommandButton(FocusScope& scope, std::string name, int index = -1) : Control(scope, ControlKind::CommandButton, std::move(name), index) {}
+    CommandButton(FocusScope& scope, std::string name, int index = -1)
+        : Control(scope, ControlKind::CommandButton, std::move(name), index) {}
     std::string Caption;
 };
 
 class CheckBox : public Control {
 public:
-    CheckBox(FocusScope& scope, std::string name, int index = -1) : Control(scope, ControlKind::CheckBox, std::move(name), index) {}
+    CheckBox(FocusScope& scope, std::string name, int index = -1)
+        : Control(scope, ControlKind::CheckBox, std::move(name), index) {}
     std::string Caption;
     int Value() const { return value_; }
     void SetValue(int value);  // 0 unchecked, 1 checked, 2 grey; a change raises Click
@@ -95,14 +114,19 @@ private:
 
 class TextBox : public Control {
 public:
-    TextBox(FocusScope& scope, std::string name, int index = -1) : Control(scope, ControlKind::TextBox, std::move(name), index) {}
+    TextBox(FocusScope& scope, std::string name, int index = -1)
+        : Control(scope, ControlKind::TextBox, std::move(name), index) {}
     const std::string& Text() const { return text_; }
     void SetText(std::string text);  // raises Change when the text differs
     bool Locked = false;
     bool MultiLine = false;
     int SelStart = 0, SelLength = 0;
-    void SelectAll() { SelStart = 0; SelLength = static_cast<int>(text_.size()); }
+    void SelectAll() {
+        SelStart = 0;
+        SelLength = static_cast<int>(text_.size());
+    }
     Event<> Change;
+
 private:
     std::string text_;
 };
@@ -121,11 +145,12 @@ public:
     void RemoveItem(int index);
     void Clear();
     int ListCount() const { return static_cast<int>(entries_.size()); }
-    const std::string& List(int index) const;       // -1 reads as ""; error 381 elsewhere outside the list
+    const std::string& List(int index) const;  // -1 reads as ""; error 381 elsewhere outside the list
     long ItemData(int index) const;
     int ListIndex() const { return listIndex_; }
     void SetListIndex(int index);  // -1 to ListCount-1, else error 380; a change raises Click
     const std::vector<ListEntry>& Entries() const { return entries_; }
+
 protected:
     virtual void OnIndexChanged() {}
     std::vector<ListEntry> entries_;
@@ -134,21 +159,25 @@ protected:
 
 class ComboBox : public ListControl {
 public:
-    ComboBox(FocusScope& scope, std::string name, int index = -1) : ListControl(scope, ControlKind::ComboBox, std::move(name), index) {}
+    ComboBox(FocusScope& scope, std::string name, int index = -1)
+        : ListControl(scope, ControlKind::ComboBox, std::move(name), index) {}
     const std::string& Text() const { return text_; }
     void SetText(std::string text);  // the index stays; raises Change when it differs
     bool Locked = false;
     int Style = 0;  // 0 drop-down combo, 2 drop-down list
     Event<> Change, DropDown;
+
 protected:
     void OnIndexChanged() override;
+
 private:
     std::string text_;
 };
 
 class ListBox : public ListControl {
 public:
-    ListBox(FocusScope& scope, std::string name, int index = -1) : ListControl(scope, ControlKind::ListBox, std::move(name), index) {}
+    ListBox(FocusScope& scope, std::string name, int index = -1)
+        : ListControl(scope, ControlKind::ListBox, std::move(name), index) {}
     bool Selected(int index) const;
     void SetSelected(int index, bool selected);  // raises ItemCheck on a list with check boxes
     bool CheckBoxes = false;
@@ -185,7 +214,8 @@ struct ColumnHeader {
 
 class ListView : public Control {
 public:
-    ListView(FocusScope& scope, std::string name, int index = -1) : Control(scope, ControlKind::ListView, std::move(name), index) {}
+    ListView(FocusScope& scope, std::string name, int index = -1)
+        : Control(scope, ControlKind::ListView, std::move(name), index) {}
 
     std::vector<ColumnHeader> ColumnHeaders;
     int View = 3;  // 3 report view
@@ -194,7 +224,7 @@ public:
 
     // Items from 1, as the runtime numbers them.
     ListItem& Add(std::string text = {});
-    ListItem& Item(int index);           // error 35600 outside the list
+    ListItem& Item(int index);  // error 35600 outside the list
     const ListItem& Item(int index) const;
     int Count() const { return static_cast<int>(items_.size()); }
     void Remove(int index);
@@ -214,7 +244,8 @@ private:
 
 class DatePicker : public Control {
 public:
-    DatePicker(FocusScope& scope, std::string name, int index = -1) : Control(scope, ControlKind::DatePicker, std::move(name), index) {}
+    DatePicker(FocusScope& scope, std::string name, int index = -1)
+        : Control(scope, ControlKind::DatePicker, std::move(name), index) {}
     Date Value{};
     // The picker's own range: 1601-01-01 to 9999-12-31.
     Date MinDate = Date{-109205};

@@ -124,7 +124,8 @@ std::optional<Date> ParseDateText(std::string_view text) {
     std::size_t at = 0;
     for (int part = 0; part < 3; ++part) {
         const std::size_t from = at;
-        while (at < text.size() && text[at] >= '0' && text[at] <= '9' && at - from < 4) numbers[part] = numbers[part] * 10 + (text[at++] - '0');
+        while (at < text.size() && text[at] >= '0' && text[at] <= '9' && at - from < 4)
+            numbers[part] = numbers[part] * 10 + (text[at++] - '0');
         const std::size_t length = at - from;
         if (length == 0 || (part < 2 && length > 2) || (part == 2 && length != 4)) return std::nullopt;
         if (part < 2) {
@@ -145,8 +146,10 @@ Date DateSerial(int year, int month, int day) { return DateTime(year, month, day
 
 Date DateTime(int year, int month, int day, int hour, int minute, int second) {
     // Two-digit years as the runtime read them: 0-29 this century, 30-99 the last.
-    if (year >= 0 && year <= 29) year += 2000;
-    else if (year >= 30 && year <= 99) year += 1900;
+    if (year >= 0 && year <= 29)
+        year += 2000;
+    else if (year >= 30 && year <= 99)
+        year += 1900;
     const long totalSeconds = hour * 3600L + minute * 60L + second;
     const long dayNumber = DayNumberOf(year, month, day) + FloorDiv(totalSeconds, kSecondsPerDay);
     CheckInCalendar(static_cast<double>(dayNumber));
@@ -188,7 +191,8 @@ std::string DateToIso(Date date) {
     if (p.hour == 0 && p.minute == 0 && p.second == 0)
         std::snprintf(buffer, sizeof buffer, "%04d-%02d-%02d", p.year, p.month, p.day);
     else
-        std::snprintf(buffer, sizeof buffer, "%04d-%02d-%02d %02d:%02d:%02d", p.year, p.month, p.day, p.hour, p.minute, p.second);
+        std::snprintf(buffer, sizeof buffer, "%04d-%02d-%02d %02d:%02d:%02d", p.year, p.month, p.day, p.hour, p.minute,
+                      p.second);
     return buffer;
 }
 
@@ -210,7 +214,8 @@ std::string DateToText(Date date) {
     if (p.hour == 0 && p.minute == 0 && p.second == 0)
         std::snprintf(buffer, sizeof buffer, "%02d/%02d/%04d", p.day, p.month, p.year);
     else
-        std::snprintf(buffer, sizeof buffer, "%02d/%02d/%04d %02d:%02d:%02d", p.day, p.month, p.year, p.hour, p.minute, p.second);
+        std::snprintf(buffer, sizeof buffer, "%02d/%02d/%04d %02d:%02d:%02d", p.day, p.month, p.year, p.hour, p.minute,
+                      p.second);
     return buffer;
 }
 

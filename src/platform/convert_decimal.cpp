@@ -29,7 +29,8 @@ DecimalDigits KeepDigits(DecimalDigits number, int keep, TieRule tie) {
         return number;
     }
     const char first = number.digits[static_cast<std::size_t>(keep)];
-    const bool moreAfterFirst = number.digits.find_first_not_of('0', static_cast<std::size_t>(keep) + 1) != std::string::npos;
+    const bool moreAfterFirst =
+        number.digits.find_first_not_of('0', static_cast<std::size_t>(keep) + 1) != std::string::npos;
     bool up = first > '5' || (first == '5' && moreAfterFirst);
     if (first == '5' && !moreAfterFirst) {
         if (tie == TieRule::AwayFromZero) {

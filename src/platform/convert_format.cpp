@@ -16,7 +16,8 @@ namespace {
 bool SameNoCase(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) return false;
     for (std::size_t i = 0; i < a.size(); ++i)
-        if (std::tolower(static_cast<unsigned char>(a[i])) != std::tolower(static_cast<unsigned char>(b[i]))) return false;
+        if (std::tolower(static_cast<unsigned char>(a[i])) != std::tolower(static_cast<unsigned char>(b[i])))
+            return false;
     return true;
 }
 
@@ -62,7 +63,8 @@ std::optional<detail::DecimalDigits> NumberOf(const Value& value) {
 
 std::optional<Date> DateOf(const Value& value) {
     if (value.kind() == Value::Kind::Date) return value.AsDate();
-    if (value.kind() == Value::Kind::Text && !IsNumericText(value.AsText())) return detail::ParseDateText(value.AsText());
+    if (value.kind() == Value::Kind::Text && !IsNumericText(value.AsText()))
+        return detail::ParseDateText(value.AsText());
     return Date{CDbl(value)};
 }
 

@@ -15,9 +15,22 @@ namespace platform::detail {
 namespace {
 
 struct Token {
-    enum class Kind { Literal, Day, Weekday, Month, Minute, Quarter, Year, Hour, Second, GeneralDate, LongTime, AmPm } kind;
-    int count = 0;      // length of the run of letters
-    std::string text;   // the literal, or the AM/PM marker as written
+    enum class Kind {
+        Literal,
+        Day,
+        Weekday,
+        Month,
+        Minute,
+        Quarter,
+        Year,
+        Hour,
+        Second,
+        GeneralDate,
+        LongTime,
+        AmPm
+    } kind;
+    int count = 0;     // length of the run of letters
+    std::string text;  // the literal, or the AM/PM marker as written
 };
 
 constexpr const char* kMonthNames[] = {"January", "February", "March",     "April",   "May",      "June",
@@ -27,7 +40,8 @@ constexpr const char* kDayNames[] = {"Sunday", "Monday", "Tuesday", "Wednesday",
 bool StartsWithNoCase(std::string_view text, std::size_t at, std::string_view prefix) {
     if (text.size() - at < prefix.size()) return false;
     for (std::size_t i = 0; i < prefix.size(); ++i)
-        if (std::tolower(static_cast<unsigned char>(text[at + i])) != std::tolower(static_cast<unsigned char>(prefix[i])))
+        if (std::tolower(static_cast<unsigned char>(text[at + i])) !=
+            std::tolower(static_cast<unsigned char>(prefix[i])))
             return false;
     return true;
 }
@@ -66,8 +80,10 @@ std::size_t RunLength(std::string_view pattern, std::size_t at) {
 std::vector<Token> Tokenize(std::string_view pattern) {
     std::vector<Token> tokens;
     const auto literal = [&](char c) {
-        if (!tokens.empty() && tokens.back().kind == Token::Kind::Literal) tokens.back().text += c;
-        else tokens.push_back({Token::Kind::Literal, 0, std::string(1, c)});
+        if (!tokens.empty() && tokens.back().kind == Token::Kind::Literal)
+            tokens.back().text += c;
+        else
+            tokens.push_back({Token::Kind::Literal, 0, std::string(1, c)});
     };
     WalkPattern(pattern, literal, [&](std::size_t i) {
         if (std::size_t marker = AmPmMarkerAt(pattern, i)) {
@@ -92,7 +108,8 @@ std::vector<Token> Tokenize(std::string_view pattern) {
         if (tokens[i].kind != Token::Kind::Month || tokens[i].count > 2) continue;
         const auto neighbour = [&](int step) -> const Token* {
             for (long j = static_cast<long>(i) + step; j >= 0 && j < static_cast<long>(tokens.size()); j += step)
-                if (tokens[static_cast<std::size_t>(j)].kind != Token::Kind::Literal) return &tokens[static_cast<std::size_t>(j)];
+                if (tokens[static_cast<std::size_t>(j)].kind != Token::Kind::Literal)
+                    return &tokens[static_cast<std::size_t>(j)];
             return nullptr;
         };
         const Token* before = neighbour(-1);
@@ -147,24 +164,35 @@ std::string FormatDatePattern(Date date, std::string_view pattern) {
         switch (token.kind) {
             case Token::Kind::Literal: out += token.text; break;
             case Token::Kind::Day:
-                if (n <= 2) out += Number(p.day, n);
-                else if (n == 3) out += std::string(kDayNames[WeekdayOf(date) - 1]).substr(0, 3);
-                else if (n == 4) out += kDayNames[WeekdayOf(date) - 1];
-                else if (n == 5) out += FormatDatePattern(date, "dd/mm/yyyy");
-                else out += FormatDatePattern(date, "dd mmmm yyyy");
+                if (n <= 2)
+                    out += Number(p.day, n);
+                else if (n == 3)
+                    out += std::string(kDayNames[WeekdayOf(date) - 1]).substr(0, 3);
+                else if (n == 4)
+                    out += kDayNames[WeekdayOf(date) - 1];
+                else if (n == 5)
+                    out += FormatDatePattern(date, "dd/mm/yyyy");
+                else
+                    out += FormatDatePattern(date, "dd mmmm yyyy");
                 break;
             case Token::Kind::Weekday: out += n == 1 ? Number(WeekdayOf(date), 1) : Number(WeekOfYear(date), 1); break;
             case Token::Kind::Month:
-                if (n <= 2) out += Number(p.month, n);
-                else if (n == 3) out += std::string(kMonthNames[p.month - 1]).substr(0, 3);
-                else out += kMonthNames[p.month - 1];
+                if (n <= 2)
+                    out += Number(p.month, n);
+                else if (n == 3)
+                    out += std::string(kMonthNames[p.month - 1]).substr(0, 3);
+                else
+                    out += kMonthNames[p.month - 1];
                 break;
             case Token::Kind::Minute: out += Number(p.minute, n >= 2 ? 2 : 1); break;
             case Token::Kind::Quarter: out += Number((p.month - 1) / 3 + 1, 1); break;
             case Token::Kind::Year:
-                if (n == 1) out += Number(DayOfYear(date), 1);
-                else if (n == 2) out += Number(p.year % 100, 2);
-                else out += Number(p.year, 4);
+                if (n == 1)
+                    out += Number(DayOfYear(date), 1);
+                else if (n == 2)
+                    out += Number(p.year % 100, 2);
+                else
+                    out += Number(p.year, 4);
                 break;
             case Token::Kind::Hour: {
                 int hour = p.hour;

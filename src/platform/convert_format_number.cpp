@@ -40,8 +40,10 @@ NumberPattern ParseNumberPattern(std::string_view section) {
     const auto settleCommas = [&](bool beforeIntegerPlace) {
         if (pendingCommas == 0) return;
         if (pattern.integerPlaces > 0) {
-            if (beforeIntegerPlace) pattern.grouping = true;
-            else pattern.thousandsScale += pendingCommas;
+            if (beforeIntegerPlace)
+                pattern.grouping = true;
+            else
+                pattern.thousandsScale += pendingCommas;
         }
         pendingCommas = 0;
     };
@@ -131,7 +133,8 @@ std::string LayOut(const NumberPattern& pattern, std::string integerDigits, cons
                 const int fromRight = pattern.integerPlaces - 1 - integerPlace++;
                 if (fromRight == pattern.integerPlaces - 1 && integerLength > pattern.integerPlaces)
                     out += integerDigits.substr(0, static_cast<std::size_t>(integerLength - pattern.integerPlaces));
-                if (fromRight < integerLength) out += integerDigits[static_cast<std::size_t>(integerLength - 1 - fromRight)];
+                if (fromRight < integerLength)
+                    out += integerDigits[static_cast<std::size_t>(integerLength - 1 - fromRight)];
                 break;
             }
             case Piece::Kind::Point:
@@ -139,7 +142,8 @@ std::string LayOut(const NumberPattern& pattern, std::string integerDigits, cons
                 out += '.';
                 break;
             case Piece::Kind::FractionPlace:
-                if (fractionShown[static_cast<std::size_t>(fractionPlace)]) out += fractionDigits[static_cast<std::size_t>(fractionPlace)];
+                if (fractionShown[static_cast<std::size_t>(fractionPlace)])
+                    out += fractionDigits[static_cast<std::size_t>(fractionPlace)];
                 ++fractionPlace;
                 break;
             case Piece::Kind::Exponent: out += exponentText; break;
@@ -182,13 +186,15 @@ std::string FormatWith(const NumberPattern& pattern, DecimalDigits number) {
 std::vector<std::string_view> SplitSections(std::string_view pattern) {
     std::vector<std::string_view> sections;
     std::size_t from = 0;
-    WalkPattern(pattern, [](char) {}, [&](std::size_t i) {
-        if (pattern[i] == ';') {
-            sections.push_back(pattern.substr(from, i - from));
-            from = i + 1;
-        }
-        return i;
-    });
+    WalkPattern(
+        pattern, [](char) {},
+        [&](std::size_t i) {
+            if (pattern[i] == ';') {
+                sections.push_back(pattern.substr(from, i - from));
+                from = i + 1;
+            }
+            return i;
+        });
     sections.push_back(pattern.substr(from));
     return sections;
 }

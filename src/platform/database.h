@@ -13,11 +13,11 @@ namespace platform {
 
 // Type codes of procedure parameters, as the connection library numbers them.
 namespace adtype {
-inline constexpr int Integer = 3;   // 32-bit integer
+inline constexpr int Integer = 3;  // 32-bit integer
 inline constexpr int Double = 5;
 inline constexpr int Date = 7;
 inline constexpr int Boolean = 11;
-inline constexpr int VarChar = 200; // variable text
+inline constexpr int VarChar = 200;  // variable text
 }  // namespace adtype
 
 struct Parameter {

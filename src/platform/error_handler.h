@@ -53,8 +53,8 @@ bool RunHandled(ErrorLog& log, std::string_view prefix, Body&& body) {
 // As RunHandled; when the error strikes with bInTransaction set, the transaction is
 // rolled back (and the flag cleared) before the error is logged.
 template <class Body>
-bool RunHandledInTransaction(ErrorLog& log, std::string_view prefix, Connection& connection,
-                             bool& bInTransaction, Body&& body) {
+bool RunHandledInTransaction(ErrorLog& log, std::string_view prefix, Connection& connection, bool& bInTransaction,
+                             Body&& body) {
     try {
         body();
         return true;

@@ -48,8 +48,8 @@ bool FaultInjectingConnection::MatchesProcedure(const std::string& name) const {
 void FaultInjectingConnection::CountAndMaybeFail(const RecordedCall& call, bool matches) {
     const int number = ++callCount_;
     if (matches || failingCalls_.erase(number) > 0)
-        throw RuntimeError(err::DatabaseError,
-                           "Injected failure of call " + std::to_string(number) + ": " + RecordingConnection::Describe(call));
+        throw RuntimeError(err::DatabaseError, "Injected failure of call " + std::to_string(number) + ": " +
+                                                   RecordingConnection::Describe(call));
 }
 
 RecordsetPtr FaultInjectingConnection::Execute(const std::string& sql) {

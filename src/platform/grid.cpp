@@ -12,8 +12,7 @@ constexpr long kInvalidArrayIndex = 381;
 }  // namespace
 
 // A new grid offers one blank row, as the control did before the program set it up.
-DTFlex::DTFlex(FocusScope& scope, std::string name, int columns)
-    : Control(scope, ControlKind::Grid, std::move(name)) {
+DTFlex::DTFlex(FocusScope& scope, std::string name, int columns) : Control(scope, ControlKind::Grid, std::move(name)) {
     if (columns < 0) throw RuntimeError(err::InvalidPropertyValue);
     columns_.resize(static_cast<std::size_t>(columns) + 1);
     cells_.assign(2, std::vector<std::string>(static_cast<std::size_t>(columns) + 1));
@@ -76,8 +75,7 @@ void DTFlex::RemoveRow(int row) {
 void DTFlex::ClearGrid() {
     DropEdit();
     HideDroppedList();
-    for (std::size_t r = 1; r < cells_.size(); ++r)
-        std::fill(cells_[r].begin(), cells_[r].end(), std::string());
+    for (std::size_t r = 1; r < cells_.size(); ++r) std::fill(cells_[r].begin(), cells_[r].end(), std::string());
     row_ = 1;
     col_ = 1;
     ++cellStamp_;
@@ -91,9 +89,7 @@ bool DTFlex::IsBlankRow(int row) const {
     return std::all_of(cells.begin() + 1, cells.end(), [](const std::string& cell) { return cell.empty(); });
 }
 
-bool DTFlex::HasCurrentCell() const {
-    return row_ >= 1 && row_ <= GridRows() && col_ >= 1 && col_ <= GridCols();
-}
+bool DTFlex::HasCurrentCell() const { return row_ >= 1 && row_ <= GridRows() && col_ >= 1 && col_ <= GridCols(); }
 
 bool DTFlex::CurrentCellLocked() const { return ColumnAt(col_).locked; }
 

@@ -21,22 +21,22 @@ public:
     DTFlex(FocusScope& scope, std::string name, int columns = 0);
 
     // ---- shape and cells -----------------------------------------------------
-    int GridRows() const;          // data rows, heading row not counted
-    void SetGridRows(int rows);    // more appends blank rows, fewer drops from the end
+    int GridRows() const;        // data rows, heading row not counted
+    void SetGridRows(int rows);  // more appends blank rows, fewer drops from the end
     int GridCols() const;
     void SetGridCols(int cols);
     // Row 0 is the heading; column 0 the row header. Outside the grid: error 381.
     std::string GetCell(int row, int col) const;
     void SetCell(int row, int col, std::string text);
-    void RemoveRow(int row);       // rows below move up
-    void ClearGrid();              // every data row's contents emptied
+    void RemoveRow(int row);         // rows below move up
+    void ClearGrid();                // every data row's contents emptied
     bool IsBlankRow(int row) const;  // every cell of the row (columns 1 up) empty; false for no such row
 
     // ---- current cell and editing --------------------------------------------
     int GridRow() const { return row_; }
     int GridCol() const { return col_; }
-    void SetGridRow(int row);      // raises RowColChange when the cell moves
-    void SetGridCol(int col);      // raises RowColChange when the cell moves
+    void SetGridRow(int row);  // raises RowColChange when the cell moves
+    void SetGridCol(int col);  // raises RowColChange when the cell moves
     bool Editing() const { return editing_; }
     const std::string& EditText() const { return editText_; }
     // Opens the current cell's editor holding the cell's text (a locked column does
@@ -72,7 +72,7 @@ public:
     void SetColNext(int col, int next);  // where Enter goes from the column; 0 for the next one
     int ColNext(int col) const;
 
-    int VisibleCols = 0;        // the columns the user sees and reaches with the keys; 0 for all
+    int VisibleCols = 0;  // the columns the user sees and reaches with the keys; 0 for all
     int EditStyle = 0;
     int LastEntryCol = 0;       // Enter past this column goes to the next row; 0 for the last column seen
     bool AllowAddRows = false;  // the user's entry in the last row adds a blank row under it
@@ -155,7 +155,7 @@ private:
     // removal of the current row), so that code which raised an event can tell
     // whether a handler moved on meanwhile.
     unsigned cellStamp_ = 0;
-    Control* droppedList_ = nullptr;  // the attached list the grid dropped down
+    Control* droppedList_ = nullptr;      // the attached list the grid dropped down
     std::unique_ptr<TextBox> editorBox_;  // made on first use (EditorBox)
     bool takingEditorBoxText_ = false;
     void TakeEditorBoxText();

@@ -21,8 +21,11 @@ struct PadKey {
     int code;
     char character;
 };
-constexpr PadKey kPad[] = {{keys::PadMultiply, '*'}, {keys::PadPlus, '+'}, {keys::PadMinus, '-'},
-                           {keys::PadDecimal, '.'}, {keys::PadSlash, '/'}};
+constexpr PadKey kPad[] = {{keys::PadMultiply, '*'},
+                           {keys::PadPlus, '+'},
+                           {keys::PadMinus, '-'},
+                           {keys::PadDecimal, '.'},
+                           {keys::PadSlash, '/'}};
 
 bool IsContinuationByte(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
@@ -35,7 +38,8 @@ std::optional<std::string> KeyCharacter(int keyCode, int shift) {
     if (keyCode >= 'A' && keyCode <= 'Z')
         return std::string(1, static_cast<char>(shifted ? keyCode : keyCode - 'A' + 'a'));
     if (keyCode >= '0' && keyCode <= '9')
-        return std::string(1, shifted ? kShiftedDigits[static_cast<std::size_t>(keyCode - '0')] : static_cast<char>(keyCode));
+        return std::string(
+            1, shifted ? kShiftedDigits[static_cast<std::size_t>(keyCode - '0')] : static_cast<char>(keyCode));
     if (keyCode >= keys::PadDigit0 && keyCode <= keys::PadDigit9)
         return std::string(1, static_cast<char>('0' + keyCode - keys::PadDigit0));
     for (const auto& key : kPad)
@@ -54,7 +58,8 @@ int KeyCodeOf(std::string_view character) {
     if (c == ' ') return keys::Space;
     // The operators a clerk types into a quantity come from the number pad.
     for (const auto& key : kPad)
-        if (key.character == static_cast<char>(c) && key.code != keys::PadMinus && key.code != keys::PadDecimal) return key.code;
+        if (key.character == static_cast<char>(c) && key.code != keys::PadMinus && key.code != keys::PadDecimal)
+            return key.code;
     for (const auto& key : kPunctuation)
         if (key.plain == static_cast<char>(c) || key.shifted == static_cast<char>(c)) return key.code;
     const auto digit = kShiftedDigits.find(static_cast<char>(c));

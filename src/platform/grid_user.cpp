@@ -17,13 +17,9 @@ constexpr long kInvalidArrayIndex = 381;
 // A grid that is switched off, hidden or on a page that takes no focus gets no keys.
 bool DTFlex::AcceptsUserInput() const { return GridEnabled && CanTakeFocus(); }
 
-int DTFlex::LastShownCol() const {
-    return VisibleCols > 0 ? std::min(VisibleCols, GridCols()) : GridCols();
-}
+int DTFlex::LastShownCol() const { return VisibleCols > 0 ? std::min(VisibleCols, GridCols()) : GridCols(); }
 
-int DTFlex::LastEntryColumn() const {
-    return LastEntryCol > 0 ? std::min(LastEntryCol, GridCols()) : LastShownCol();
-}
+int DTFlex::LastEntryColumn() const { return LastEntryCol > 0 ? std::min(LastEntryCol, GridCols()) : LastShownCol(); }
 
 void DTFlex::UserKey(int keyCode, int shift) {
     if (!AcceptsUserInput()) return;
@@ -39,23 +35,17 @@ void DTFlex::ActOnKey(int keyCode, int shift) {
         case keys::Enter:
             if (CommitEdit()) EnterForward();
             return;
-        case keys::Escape:
-            GiveUpEdit();
-            return;
-        case keys::Left: case keys::Up: case keys::Right: case keys::Down:
+        case keys::Escape: GiveUpEdit(); return;
+        case keys::Left:
+        case keys::Up:
+        case keys::Right:
+        case keys::Down:
             if (CommitEdit()) MoveByArrow(keyCode);
             return;
-        case keys::Backspace:
-            RemoveLastCharacter();
-            return;
-        case keys::Delete:
-            EmptyEditor();
-            return;
-        case keys::F4:
-            DropListDown();
-            return;
-        default:
-            break;
+        case keys::Backspace: RemoveLastCharacter(); return;
+        case keys::Delete: EmptyEditor(); return;
+        case keys::F4: DropListDown(); return;
+        default: break;
     }
     if (auto character = grid_keys::KeyCharacter(keyCode, shift); character && TypeIntoEditor(*character, false))
         Change.Raise(col_);
@@ -135,12 +125,16 @@ void DTFlex::MoveByArrow(int keyCode) {
     }
     switch (keyCode) {
         case keys::Left:
-            if (col_ > 1) MoveTo(row_, col_ - 1);
-            else if (row_ == 1) AtFirstRow.Raise();
+            if (col_ > 1)
+                MoveTo(row_, col_ - 1);
+            else if (row_ == 1)
+                AtFirstRow.Raise();
             break;
         case keys::Up:
-            if (row_ > 1) MoveTo(row_ - 1, col_);
-            else AtFirstRow.Raise();
+            if (row_ > 1)
+                MoveTo(row_ - 1, col_);
+            else
+                AtFirstRow.Raise();
             break;
         case keys::Right:
             if (col_ < LastShownCol()) MoveTo(row_, col_ + 1);
@@ -148,8 +142,7 @@ void DTFlex::MoveByArrow(int keyCode) {
         case keys::Down:
             if (row_ < GridRows()) MoveTo(row_ + 1, col_);
             break;
-        default:
-            break;
+        default: break;
     }
 }
 
@@ -163,8 +156,10 @@ bool DTFlex::TypeIntoEditor(const std::string& character, bool replaceEditorText
     }
     // Typing into a cell with no editor open starts from an empty text, as the
     // control did: the keys replace what the cell showed.
-    if (!editing_) OpenEditor({});
-    else if (replaceEditorText) editText_.clear();
+    if (!editing_)
+        OpenEditor({});
+    else if (replaceEditorText)
+        editText_.clear();
     editText_ += character;
     return true;
 }
@@ -179,8 +174,10 @@ void DTFlex::RemoveLastCharacter() {
 
 void DTFlex::EmptyEditor() {
     if (!HasCurrentCell() || CurrentCellLocked()) return;
-    if (!editing_) OpenEditor({});
-    else editText_.clear();
+    if (!editing_)
+        OpenEditor({});
+    else
+        editText_.clear();
     Change.Raise(col_);
 }
 

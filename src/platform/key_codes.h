@@ -12,16 +12,14 @@ inline constexpr int C = 67, T = 84, V = 86;
 
 // The number pad: its digits run from PadDigit0 to PadDigit9.
 inline constexpr int PadDigit0 = 96, PadDigit9 = 105;
-inline constexpr int PadMultiply = 106, PadPlus = 107, PadMinus = 109, PadDecimal = 110,
-                     PadSlash = 111;
+inline constexpr int PadMultiply = 106, PadPlus = 107, PadMinus = 109, PadDecimal = 110, PadSlash = 111;
 
-inline constexpr int F1 = 112, F2 = 113, F3 = 114, F4 = 115, F5 = 116, F6 = 117, F7 = 118,
-                     F8 = 119, F9 = 120, F10 = 121, F11 = 122, F12 = 123;
+inline constexpr int F1 = 112, F2 = 113, F3 = 114, F4 = 115, F5 = 116, F6 = 117, F7 = 118, F8 = 119, F9 = 120,
+                     F10 = 121, F11 = 122, F12 = 123;
 
 // The punctuation keys of the main keyboard, each named by its unshifted character.
-inline constexpr int Semicolon = 186, Equals = 187, Comma = 188, Minus = 189, Period = 190,
-                     Slash = 191, Backquote = 192, OpenBracket = 219, Backslash = 220,
-                     CloseBracket = 221, Quote = 222;
+inline constexpr int Semicolon = 186, Equals = 187, Comma = 188, Minus = 189, Period = 190, Slash = 191,
+                     Backquote = 192, OpenBracket = 219, Backslash = 220, CloseBracket = 221, Quote = 222;
 
 // What the keyboard reports for a character it composed itself (accented letters
 // and the like): the key code that carries no key of its own.

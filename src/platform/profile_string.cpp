@@ -24,8 +24,8 @@ int TakeLine(void* user, const char* section, const char* name, const char* valu
 
 }  // namespace
 
-std::string GetPrivateProfileString(const std::string& section, const std::string& key,
-                                    const std::string& byDefault, std::size_t size, const std::string& file) {
+std::string GetPrivateProfileString(const std::string& section, const std::string& key, const std::string& byDefault,
+                                    std::size_t size, const std::string& file) {
     Lookup lookup{UCase(section), UCase(key), std::nullopt};
     // A file that cannot be opened, or a line the reader does not understand, leaves
     // what was found before it; the old reader was as forgiving.

@@ -11,7 +11,7 @@ namespace platform {
 
 // The value of key in section of file, at most size - 1 characters (the old call
 // kept one place of its buffer for the terminator); the default when not found.
-std::string GetPrivateProfileString(const std::string& section, const std::string& key,
-                                    const std::string& byDefault, std::size_t size, const std::string& file);
+std::string GetPrivateProfileString(const std::string& section, const std::string& key, const std::string& byDefault,
+                                    std::size_t size, const std::string& file);
 
 }  // namespace platform

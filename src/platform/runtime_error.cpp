@@ -17,7 +17,9 @@ std::string StandardDescription(long number) {
         case 380: return "Invalid property value";
         case 381: return "Invalid property array index";
         case 438: return "Object doesn't support this property or method";
-        case 3021: return "Either BOF or EOF is True, or the current record has been deleted. Requested operation requires a current record.";
+        case 3021:
+            return "Either BOF or EOF is True, or the current record has been deleted. Requested operation requires a "
+                   "current record.";
         case 3265: return "Item cannot be found in the collection corresponding to the requested name or ordinal.";
         case 3704: return "Operation is not allowed when the object is closed.";
         case 35600: return "Index out of bounds";

@@ -19,7 +19,11 @@ public:
     enum class Kind { Empty, Null, Integer, Double, Text, Date, Boolean };
 
     Value() = default;
-    static Value Null() { Value v; v.data_ = NullTag{}; return v; }
+    static Value Null() {
+        Value v;
+        v.data_ = NullTag{};
+        return v;
+    }
     Value(int n) : data_(std::int64_t{n}) {}
     Value(long n) : data_(std::int64_t{n}) {}
     Value(long long n) : data_(std::int64_t{n}) {}
@@ -43,8 +47,12 @@ public:
     friend bool operator==(const Value&, const Value&) = default;
 
 private:
-    struct EmptyTag { friend bool operator==(EmptyTag, EmptyTag) { return true; } };
-    struct NullTag { friend bool operator==(NullTag, NullTag) { return true; } };
+    struct EmptyTag {
+        friend bool operator==(EmptyTag, EmptyTag) { return true; }
+    };
+    struct NullTag {
+        friend bool operator==(NullTag, NullTag) { return true; }
+    };
     // The order of the alternatives is the order of Kind.
     std::variant<EmptyTag, NullTag, std::int64_t, double, std::string, Date, bool> data_;
 };

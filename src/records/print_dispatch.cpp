@@ -37,8 +37,10 @@ std::optional<PrintTemplate> FindPrintTemplate(host_services::HostServices& host
     }
     PrintTemplate found;
     found.szSettingsFile = global.GetIniFilePath() + szTemplate;
-    found.szAbstractSP = platform::GetPrivateProfileString("General", "AbstractSP", "", kProfileBuffer, found.szSettingsFile);
-    found.szDetailSP = platform::GetPrivateProfileString("General", "DetailSP", "", kProfileBuffer, found.szSettingsFile);
+    found.szAbstractSP =
+        platform::GetPrivateProfileString("General", "AbstractSP", "", kProfileBuffer, found.szSettingsFile);
+    found.szDetailSP =
+        platform::GetPrivateProfileString("General", "DetailSP", "", kProfileBuffer, found.szSettingsFile);
     return found;
 }
 

@@ -30,10 +30,10 @@ struct Zuro_frmDispatch_Dispatch::DetailPass {
     long nDispatchID = 0;
     platform::Date dtDispatchDay{};
     long nDatedPosting = 0;
-    long nUOM = 0;           // the unit of the pass
-    double fUOMQty = 0;      // the quantity in that unit
-    double fUOMPrice = 0;    // the price of that unit
-    double fBaseQty = 0;     // the quantity in the item's base unit
+    long nUOM = 0;         // the unit of the pass
+    double fUOMQty = 0;    // the quantity in that unit
+    double fUOMPrice = 0;  // the price of that unit
+    double fBaseQty = 0;   // the quantity in the item's base unit
 };
 
 bool Zuro_frmDispatch_Dispatch::SaveDetailRows(long nRows, long nDispatchID, platform::Date dtDispatchDay,
@@ -62,7 +62,8 @@ bool Zuro_frmDispatch_Dispatch::SaveDetailRows(long nRows, long nDispatchID, pla
 
         // A count for each of the item's three units, the largest first, each priced
         // at its own rate of the original price.
-        const std::vector<std::string> vParts = platform::Split(global.GetUOMInfo(grid.GetCell(r, grid::colQuantity)), "*");
+        const std::vector<std::string> vParts =
+            platform::Split(global.GetUOMInfo(grid.GetCell(r, grid::colQuantity)), "*");
         for (int nPass = 3; nPass >= 1; --nPass) {
             const double fRate = global.ConvertWithRate(szItem0, nPass, pass.nUOM);
             const std::size_t nPart = static_cast<std::size_t>(3 - nPass);
@@ -112,7 +113,8 @@ bool Zuro_frmDispatch_Dispatch::SaveDetailPass(long r, const DetailPass& pass) {
     const bool bOCG = global.GetOCGEnabled();
     if (bOCG) {
         // The scheme links go as the grid holds them: serials.
-        parameters.insert(parameters.end(), {{number(grid::colSchemeID), Integer}, {cell(grid::colItemCheck), VarChar}});
+        parameters.insert(parameters.end(),
+                          {{number(grid::colSchemeID), Integer}, {cell(grid::colItemCheck), VarChar}});
     } else {
         // The scheme links go as grid rows; the scheme lists twice, as the server takes them.
         const std::string szFreeOfRows =
@@ -169,7 +171,9 @@ std::string Zuro_frmDispatch_Dispatch::GetPrimaryItemName(long nRow, const std::
     auto& global = host_.global;
     auto& grid = DTFlexDispatch;
     // The figure in the cell is taken as a row number as it stands.
-    auto itemOfRow = [&](long n) { return global.ToText(platform::Value(grid.GetCell(static_cast<int>(n), grid::colItemCode))); };
+    auto itemOfRow = [&](long n) {
+        return global.ToText(platform::Value(grid.GetCell(static_cast<int>(n), grid::colItemCode)));
+    };
     long n = static_cast<long>(platform::Int(global.ToNumber(platform::Value(szCol17))));
     if (n >= 1) return "Free SKU not available. You cannot sale this SKU - " + itemOfRow(n);
     n = static_cast<long>(platform::Int(global.ToNumber(platform::Value(szCol32))));

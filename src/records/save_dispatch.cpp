@@ -70,8 +70,7 @@ bool Zuro_frmDispatch_Dispatch::SaveDispatch() {
                 save.szFirstRef = save.szSecondRef = txtref.Text();
                 save.nStatus = nOriginalStatus;
                 break;
-            default:
-                break;
+            default: break;
         }
 
         // An amendment first closes the note it replaces. Closing belongs to the
@@ -85,8 +84,8 @@ bool Zuro_frmDispatch_Dispatch::SaveDispatch() {
         if (!PostToAccounts(save)) return;
 
         // The status line changes ahead of the commit.
-        const char* szDone = nMode == mode::Amendment ? "DispatchID = {0} has been Amended"
-                                                       : "DispatchID = {0} has been generated";
+        const char* szDone =
+            nMode == mode::Amendment ? "DispatchID = {0} has been Amended" : "DispatchID = {0} has been generated";
         global.ShowStatus(host_.messages.FormatMessage(szDone, {save.szDocumentID}), 0);
         global.SetLastTransactionDate(DTDispatchDate.Value);
         global.GetConnection().CommitTrans();
@@ -152,12 +151,12 @@ bool Zuro_frmDispatch_Dispatch::UpdateTransactionSerial(SaveLocals& save) {
         if (szText.substr(0, std::max(nText, 0)) != szTag.substr(0, std::max(nTag, 0))) szDocType.clear();
     }
 
-    auto result = global.NextRecordset(global.RunProcedure("sp_Update_TransactionSerial",
-                                                           {{kDispatchTransactionType, Integer},
-                                                            {szDocType, VarChar},
-                                                            {save.nDispatchID, Integer},
-                                                            {platform::Trim(szText), VarChar},
-                                                            {nSameReference, Integer}}));
+    auto result =
+        global.NextRecordset(global.RunProcedure("sp_Update_TransactionSerial", {{kDispatchTransactionType, Integer},
+                                                                                 {szDocType, VarChar},
+                                                                                 {save.nDispatchID, Integer},
+                                                                                 {platform::Trim(szText), VarChar},
+                                                                                 {nSameReference, Integer}}));
     if (!HasRecordset(result)) {
         global.GetConnection().RollbackTrans();
         host_.messages.AskMessage("Unable to save Dispatch Note", host_services::msgbox::Information);
@@ -183,12 +182,12 @@ void Zuro_frmDispatch_Dispatch::UpdateSourceDocuments(const SaveLocals& save) {
     for (long r = 1; r <= save.nRows; ++r) {
         const std::string szItem = grid.GetCell(r, grid::colItemCode);
         const long nUOM = static_cast<long>(platform::Int(platform::Val(grid.GetCell(r, grid::colUOMID))));
-        const double fQty = nUOM != 0 ? platform::Val(grid.GetCell(r, grid::colQuantity)) * global.ConvertToBaseUOM(szItem, nUOM)
-                                      : global.ConvertToDisplayUOM(szItem, grid.GetCell(r, grid::colQuantity));
+        const double fQty =
+            nUOM != 0 ? platform::Val(grid.GetCell(r, grid::colQuantity)) * global.ConvertToBaseUOM(szItem, nUOM)
+                      : global.ConvertToDisplayUOM(szItem, grid.GetCell(r, grid::colQuantity));
         const long nFree = platform::Val(grid.GetCell(r, grid::colSalePrice)) == 0 ? 1 : 0;
         auto result = global.NextRecordset(global.RunProcedure(
-            "sp_update_sopending",
-            {{szItem, VarChar}, {fQty, Double}, {szDocNumbers, VarChar}, {nFree, Integer}}));
+            "sp_update_sopending", {{szItem, VarChar}, {fQty, Double}, {szDocNumbers, VarChar}, {nFree, Integer}}));
         // A missing result is not looked for: closing it raises the runtime's error.
         if (!result) throw platform::RuntimeError(platform::err::ObjectNotSet);
         result->Close();

@@ -47,7 +47,8 @@ void Zuro_frmDispatch_Dispatch::Add_Unique_Serial(long& nRow, std::int16_t& iRes
             return;
         }
         if (iResetAll == 0) {
-            if (platform::ToNumber(platform::Value(DTFlexDispatch.GetCell(static_cast<int>(nRow), grid::colSerialNo))) == 0) {
+            if (platform::ToNumber(
+                    platform::Value(DTFlexDispatch.GetCell(static_cast<int>(nRow), grid::colSerialNo))) == 0) {
                 nSerialCounter = platform::CInt(static_cast<double>(nSerialCounter) + 1);
                 DTFlexDispatch.SetCell(static_cast<int>(nRow), grid::colSerialNo,
                                        platform::NumberToText(nSerialCounter));

@@ -68,8 +68,7 @@ platform::Value Zuro_frmDispatch_Dispatch::DoRowOperation(long lOperation, const
                     szRowNumbers += platform::NumberToText(nRow) + ",";
                     vResult = platform::Value(szRowNumbers.substr(0, szRowNumbers.size() - 1));
                     break;
-                default:
-                    break;
+                default: break;
             }
             ++i;
             ++nRow;

@@ -24,7 +24,7 @@ double Zuro_frmDispatch_Dispatch::getQuotient(double nDividend, double nDivider)
 }
 
 double Zuro_frmDispatch_Dispatch::GetApplicableQuantity(double dQuantity, double dAmount, long nSlabUnit,
-                                                         double dOnward) {
+                                                        double dOnward) {
     double dApplicable = 0;
     platform::RunHandled(host_.global, "Invoice : GetApplicableQuantity - ", [&] {
         if (dOnward == 0) {
@@ -41,7 +41,7 @@ double Zuro_frmDispatch_Dispatch::GetApplicableQuantity(double dQuantity, double
 // One row measured in base units. Every quantity slab counts base units here, UOM1
 // and UOM2 alike: the item schemes were always set up that way.
 double Zuro_frmDispatch_Dispatch::GetActualQuantity(long nRow, int nSlabUnit, double dOnward,
-                                                     platform::DTFlex& DTFlexProducts) {
+                                                    platform::DTFlex& DTFlexProducts) {
     double dActual = 0;
     platform::RunHandled(host_.global, "Invoice : GetActualQuantity - ", [&] {
         auto& global = host_.global;
@@ -71,12 +71,14 @@ double Zuro_frmDispatch_Dispatch::GetBaseUOMConv(const std::string& szItemCode, 
         switch (nUnit) {
             case 1: dConversion = 1; break;
             case 2:
-                dConversion = global.ToNumber(global.LookupValue(
-                    global.GetConnection(), "Select UOM1_Conversion From Items Where Product_Code = '" + szItemCode + "'"));
+                dConversion = global.ToNumber(
+                    global.LookupValue(global.GetConnection(),
+                                       "Select UOM1_Conversion From Items Where Product_Code = '" + szItemCode + "'"));
                 break;
             case 3:
-                dConversion = global.ToNumber(global.LookupValue(
-                    global.GetConnection(), "Select UOM2_Conversion From Items Where Product_Code = '" + szItemCode + "'"));
+                dConversion = global.ToNumber(
+                    global.LookupValue(global.GetConnection(),
+                                       "Select UOM2_Conversion From Items Where Product_Code = '" + szItemCode + "'"));
                 break;
             default: dConversion = 0;
         }

@@ -30,8 +30,9 @@ long Zuro_frmDispatch_Dispatch::chkFreeItemFound(long nSchID, long nSlab) {
     long nFound = 0;
     platform::RunHandled(host_.global, "Dispatch : chkFreeItemFound - ", [&] {
         auto& global = host_.global;
-        auto recordset = global.RunProcedure("Zuro_SP_ListFreeSKUCount", {{platform::Value(nSchID), platform::adtype::Integer},
-                                                                           {platform::Value(nSlab), platform::adtype::Integer}});
+        auto recordset =
+            global.RunProcedure("Zuro_SP_ListFreeSKUCount", {{platform::Value(nSchID), platform::adtype::Integer},
+                                                             {platform::Value(nSlab), platform::adtype::Integer}});
         recordset = global.NextRecordset(recordset);
         // No result at all counts as an empty one.
         if (!recordset) return;

@@ -55,8 +55,8 @@ long Zuro_frmDispatch_Dispatch::MakeSchemeFreeRow(long nPrimaryRow, long nScheme
     grid.SetCell(nFreeRow, colMultiSchemeDetail, MultiSchemeDetail(nSchemeID, nSlabID));
     grid.SetCell(nFreeRow, colSalePrice, "0");
 
-    for (const auto& [nProperty, nColumn] : {std::pair{9L, colBatchTrack}, std::pair{10L, colPriceOption},
-                                            std::pair{12L, colTrackInventory}}) {
+    for (const auto& [nProperty, nColumn] :
+         {std::pair{9L, colBatchTrack}, std::pair{10L, colPriceOption}, std::pair{12L, colTrackInventory}}) {
         long nValue = 0;
         GetItemProperty(szFreeCode, nProperty, nValue);
         grid.SetCell(nFreeRow, nColumn, std::to_string(nValue));

@@ -38,7 +38,8 @@ void Zuro_frmDispatch_Dispatch::LoadDocumentTypes(int nTransactionType) {
         if (cbodocumenttype.ListIndex() != -1) {
             if (szDefault.empty()) {
                 // No default set: the first real document type stands.
-                if (cbodocumenttype.ListIndex() == 0 && cbodocumenttype.ListCount() > 1) cbodocumenttype.SetListIndex(1);
+                if (cbodocumenttype.ListIndex() == 0 && cbodocumenttype.ListCount() > 1)
+                    cbodocumenttype.SetListIndex(1);
                 szDefault = cbodocumenttype.Text();
             }
             cbodocumenttype.SetText(szDefault);
@@ -59,8 +60,8 @@ void Zuro_frmDispatch_Dispatch::SetDocumentReference(int nTransactionType) {
             txtDocReference.SetText(szDefaultDocReference);
             return;
         }
-        txtDocReference.SetText(host_.global.ToText(
-            host_.global.GetNextDocumentReference(cbodocumenttype.Text(), nTransactionType)));
+        txtDocReference.SetText(
+            host_.global.ToText(host_.global.GetNextDocumentReference(cbodocumenttype.Text(), nTransactionType)));
         txtDocReference.Tag = cbodocumenttype.Text();
     });
 }

@@ -86,7 +86,8 @@ Zuro_frmDispatch_Dispatch::Zuro_frmDispatch_Dispatch(host_services::HostServices
     Frame2.Top = 1500, Frame2.Left = 120, Frame2.Width = 10950, Frame2.Height = 4800;
     lstSO.Container = &Frame2;
     lstSO.Top = 240, lstSO.Left = 120, lstSO.Width = 10700, lstSO.Height = 4400, lstSO.CheckBoxes = true;
-    for (auto* button : {&cmdGo, &cmdRefresh, &cmdContinue, &cmdClose_0}) button->Container = &Frame1_0, button->Height = 375;
+    for (auto* button : {&cmdGo, &cmdRefresh, &cmdContinue, &cmdClose_0})
+        button->Container = &Frame1_0, button->Height = 375;
     cmdGo.Top = 240, cmdGo.Left = 9000, cmdGo.Caption = "&Go";
     cmdRefresh.Top = 6420, cmdRefresh.Left = 7200, cmdRefresh.Caption = "&Refresh";
     cmdContinue.Top = 6420, cmdContinue.Left = 8400, cmdContinue.Caption = "C&ontinue";
@@ -96,7 +97,8 @@ Zuro_frmDispatch_Dispatch::Zuro_frmDispatch_Dispatch(host_services::HostServices
     Frame3.Top = -10000, Frame3.Left = 90, Frame3.Width = 11300, Frame3.Height = 7200;
     Frame4.Container = &Frame3;
     Frame4.Top = 0, Frame4.Left = 0, Frame4.Width = 11300, Frame4.Height = 1920;
-    for (auto* box : {&txtSalesman, &txtBeat, &txtCategory, &txtref, &txtDocReference}) box->Container = &Frame4, box->Height = 315;
+    for (auto* box : {&txtSalesman, &txtBeat, &txtCategory, &txtref, &txtDocReference})
+        box->Container = &Frame4, box->Height = 315;
     for (auto* combo : {&cbodocumenttype, &cboSalesman, &cboBeat, &cboCatGroup}) combo->Container = &Frame4;
     for (auto* combo : {&cboSalesman, &cboBeat, &cboCatGroup}) combo->Visible = false;
     DTDispatchDate.Container = &Frame4;
@@ -129,27 +131,30 @@ Zuro_frmDispatch_Dispatch::Zuro_frmDispatch_Dispatch(host_services::HostServices
     lstAvailable.Container = &FrameAvailable, lstAvailable.Top = 200, lstAvailable.Left = 50, lstAvailable.Height = 750;
     // The stock list's columns follow the fields of a batch; the third shows the
     // price kind of the customer's category.
-    for (const char* heading : {"Batch", "Expiry", "Sale Price", "Quantity", "PKD", "Free", "Tax Suffered", "ECP", "PTS",
-                                "PTR", "Company Price", "Applicable On", "Part of Percentage"})
+    for (const char* heading : {"Batch", "Expiry", "Sale Price", "Quantity", "PKD", "Free", "Tax Suffered", "ECP",
+                                "PTS", "PTR", "Company Price", "Applicable On", "Part of Percentage"})
         lstAvailable.ColumnHeaders.push_back({heading, 0, 0});
     cmdChange.Container = &FrameAvailable, cmdChange.Caption = "Set &Width", cmdChange.Visible = false;
-    frameRemarks.Container = &Frame3, frameRemarks.Top = 6100, frameRemarks.Height = 700, frameRemarks.Caption = "Remarks";
+    frameRemarks.Container = &Frame3, frameRemarks.Top = 6100, frameRemarks.Height = 700,
+    frameRemarks.Caption = "Remarks";
     txtRemarks.Container = &frameRemarks, txtRemarks.Top = 220, txtRemarks.Left = 60, txtRemarks.Height = 400;
-    for (auto* button : {&cmdSave, &cmdClose_1, &cmdApplyScheme, &cmdMemo}) button->Container = &Frame3, button->Height = 375;
+    for (auto* button : {&cmdSave, &cmdClose_1, &cmdApplyScheme, &cmdMemo})
+        button->Container = &Frame3, button->Height = 375;
     cmdMemo.Top = 6850, cmdMemo.Left = 7900, cmdMemo.Width = 1100, cmdMemo.Caption = "&Memo";
-    cmdApplyScheme.Top = 6850, cmdApplyScheme.Left = 6650, cmdApplyScheme.Width = 1200, cmdApplyScheme.Caption = "Apply Sc&heme";
+    cmdApplyScheme.Top = 6850, cmdApplyScheme.Left = 6650, cmdApplyScheme.Width = 1200,
+    cmdApplyScheme.Caption = "Apply Sc&heme";
     cmdSave.Top = 6850, cmdSave.Left = 9100, cmdSave.Width = 1000, cmdSave.Caption = "&Save";
     cmdClose_1.Top = 6850, cmdClose_1.Left = 10150, cmdClose_1.Width = 1000, cmdClose_1.Caption = "C&lose";
     Frame6.Container = &Frame3, Frame6.Visible = false;
 
     // The tab order of the entry page's focus rings counts from here.
     int tab = 0;
-    for (platform::Control* control :
-         std::initializer_list<platform::Control*>{&txtCustomer, &txtCustomerID, &dtFromDate, &dtToDate, &cmdGo, &lstSO,
-                                                   &txtref, &DTDispatchDate, &txtBillingAddress, &txtShippingAddress,
-                                                   &DTFlexDispatch, &txtSalesman, &txtBeat, &txtCategory, &cbodocumenttype,
-                                                   &txtDocReference, &txtRemarks, &cmdApplyScheme, &cmdMemo, &cmdSave,
-                                                   &cmdClose_1, &cmdContinue, &cmdRefresh, &cmdClose_0, &cmdChange})
+    for (platform::Control* control : std::initializer_list<platform::Control*>{
+             &txtCustomer,     &txtCustomerID, &dtFromDate,     &dtToDate,          &cmdGo,
+             &lstSO,           &txtref,        &DTDispatchDate, &txtBillingAddress, &txtShippingAddress,
+             &DTFlexDispatch,  &txtSalesman,   &txtBeat,        &txtCategory,       &cbodocumenttype,
+             &txtDocReference, &txtRemarks,    &cmdApplyScheme, &cmdMemo,           &cmdSave,
+             &cmdClose_1,      &cmdContinue,   &cmdRefresh,     &cmdClose_0,        &cmdChange})
         control->TabIndex = tab++;
 
     RegisterControls();
@@ -184,15 +189,60 @@ platform::Label& Zuro_frmDispatch_Dispatch::lblFields(int index) {
 }
 
 void Zuro_frmDispatch_Dispatch::RegisterControls() {
-    for (platform::Control* control : std::initializer_list<platform::Control*>{
-             &Frame1_0, &Frame1_1, &Frame2, &Frame3, &Frame4, &Frame5_0, &Frame5_1, &Frame6, &frameRemarks,
-             &FrameAvailable, &dtFromDate, &dtToDate, &DTDispatchDate, &txtCustomer, &txtCustomerID, &txtSalesman,
-             &txtBeat, &txtCategory, &txtref, &txtDocReference, &txtDocID, &txtDocIDTo, &txtBillingAddress,
-             &txtShippingAddress, &txtRemarks, &cbodocumenttype, &cboCustomer, &cboCustomerID, &cboSalesman, &cboBeat,
-             &cboCatGroup, &lstSO, &lstAvailable, &lstUOM, &DTFlexDispatch, &cmdContinue, &cmdClose_0, &cmdClose_1,
-             &cmdSave, &cmdGo, &cmdRefresh, &cmdApplyScheme, &cmdMemo, &cmdChange, &lblDispDate, &lblSalesman,
-             &lblBeat, &lblCatGroup, &lblRef, &lblCustomer, &lblCustomerId, &lblDocReference, &lblDocType,
-             &lblDispatchID})
+    for (platform::Control* control : std::initializer_list<platform::Control*>{&Frame1_0,
+                                                                                &Frame1_1,
+                                                                                &Frame2,
+                                                                                &Frame3,
+                                                                                &Frame4,
+                                                                                &Frame5_0,
+                                                                                &Frame5_1,
+                                                                                &Frame6,
+                                                                                &frameRemarks,
+                                                                                &FrameAvailable,
+                                                                                &dtFromDate,
+                                                                                &dtToDate,
+                                                                                &DTDispatchDate,
+                                                                                &txtCustomer,
+                                                                                &txtCustomerID,
+                                                                                &txtSalesman,
+                                                                                &txtBeat,
+                                                                                &txtCategory,
+                                                                                &txtref,
+                                                                                &txtDocReference,
+                                                                                &txtDocID,
+                                                                                &txtDocIDTo,
+                                                                                &txtBillingAddress,
+                                                                                &txtShippingAddress,
+                                                                                &txtRemarks,
+                                                                                &cbodocumenttype,
+                                                                                &cboCustomer,
+                                                                                &cboCustomerID,
+                                                                                &cboSalesman,
+                                                                                &cboBeat,
+                                                                                &cboCatGroup,
+                                                                                &lstSO,
+                                                                                &lstAvailable,
+                                                                                &lstUOM,
+                                                                                &DTFlexDispatch,
+                                                                                &cmdContinue,
+                                                                                &cmdClose_0,
+                                                                                &cmdClose_1,
+                                                                                &cmdSave,
+                                                                                &cmdGo,
+                                                                                &cmdRefresh,
+                                                                                &cmdApplyScheme,
+                                                                                &cmdMemo,
+                                                                                &cmdChange,
+                                                                                &lblDispDate,
+                                                                                &lblSalesman,
+                                                                                &lblBeat,
+                                                                                &lblCatGroup,
+                                                                                &lblRef,
+                                                                                &lblCustomer,
+                                                                                &lblCustomerId,
+                                                                                &lblDocReference,
+                                                                                &lblDocType,
+                                                                                &lblDispatchID})
         controls_[control->FullName()] = control;
     for (auto& label : lblFieldsArray) controls_[label->FullName()] = label.get();
 }

@@ -13,7 +13,9 @@ std::string ControlNames(const std::vector<platform::Control*>& controls) {
 }  // namespace
 
 void Zuro_frmDispatch_Dispatch::RegisterFields() {
-    auto text = [this](const std::string& name, const std::string* field) { fields_[name] = [field] { return *field; }; };
+    auto text = [this](const std::string& name, const std::string* field) {
+        fields_[name] = [field] { return *field; };
+    };
     auto number = [this](const std::string& name, const long* field) {
         fields_[name] = [field] { return platform::ToText(platform::Value(*field)); };
     };

@@ -143,8 +143,7 @@ void Zuro_frmDispatch_Dispatch::InitForm(platform::Date DServerDate, long nModeA
                 txtCustomerID.Container = &Frame4;
                 InitDTFlexDispatch();
                 break;
-            default:
-                break;
+            default: break;
         }
 
         // The first field of the mode takes focus, its text selected.

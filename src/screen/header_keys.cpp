@@ -82,8 +82,8 @@ void Zuro_frmDispatch_Dispatch::DTDispatchDate_KeyDown(int& KeyCode, int Shift) 
             host_.global.SetFocusTo(txtDocReference);
             return;
         }
-        const bool strictForward = nMode == mode::FromSalesConfirmation || nMode == mode::FromPurchaseOrder ||
-                                   nMode == mode::FromAlert;
+        const bool strictForward =
+            nMode == mode::FromSalesConfirmation || nMode == mode::FromPurchaseOrder || nMode == mode::FromAlert;
         if (!strictForward || Shift == host_.global.GetShiftMask()) host_.global.SetFocusTo(txtBillingAddress);
     });
 }

@@ -113,7 +113,8 @@ void Zuro_frmDispatch_Dispatch::MakeControlsVisible() {
         cbodocumenttype.Visible = true;
         cbodocumenttype.Top = 835, cbodocumenttype.Left = 7245, cbodocumenttype.Width = 2085;
         lblDocReference.Top = 855, lblDocReference.Left = LeftOfBox(7245, lblDocReference);
-        txtDocReference.Top = 1170, txtDocReference.Left = 7245, txtDocReference.Height = 315, txtDocReference.Width = 2085;
+        txtDocReference.Top = 1170, txtDocReference.Left = 7245, txtDocReference.Height = 315,
+        txtDocReference.Width = 2085;
         lblDocType.Top = 1190, lblDocType.Left = LeftOfBox(7245, lblDocType);
     });
 }

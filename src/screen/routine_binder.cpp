@@ -17,9 +17,11 @@ Signature::Signature(std::string routine, std::vector<RoutineParameter> paramete
     for (std::size_t i = 0; i < parameters_.size(); ++i) {
         const RoutineParameter& parameter = parameters_[i];
         if (parameter.inOut && !byReference_[i])
-            throw std::logic_error(fmt::format("{}: {} is taken by value and cannot be InOut", routine_, parameter.name));
+            throw std::logic_error(
+                fmt::format("{}: {} is taken by value and cannot be InOut", routine_, parameter.name));
         if (parameter.fallback && byReference_[i])
-            throw std::logic_error(fmt::format("{}: {} is by reference and cannot be Optional", routine_, parameter.name));
+            throw std::logic_error(
+                fmt::format("{}: {} is by reference and cannot be Optional", routine_, parameter.name));
         if (byReference_[i] && !parameter.inOut) {
             wordIndex_.emplace_back();
             continue;
@@ -61,7 +63,8 @@ std::string Signature::Describe(std::size_t index) const {
 namespace {
 
 double Number(const std::string& word, const std::string& what) {
-    if (!platform::IsNumericText(word)) throw RoutineRefused(fmt::format("{} must be a number, was \"{}\"", what, word));
+    if (!platform::IsNumericText(word))
+        throw RoutineRefused(fmt::format("{} must be a number, was \"{}\"", what, word));
     try {
         return platform::ToNumber(platform::Value(word));
     } catch (const platform::RuntimeError& e) {

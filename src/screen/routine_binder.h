@@ -111,7 +111,8 @@ inline constexpr bool kReadable = std::is_same_v<T, std::string> || std::is_same
 template <class A>
 std::remove_cvref_t<A> Take(const Signature& signature, std::size_t index, const std::vector<std::string>& words) {
     using Stored = std::remove_cvref_t<A>;
-    static_assert(kReadable<Stored>, "a routine called by name takes only plain values; bind a lambda that supplies the rest");
+    static_assert(kReadable<Stored>,
+                  "a routine called by name takes only plain values; bind a lambda that supplies the rest");
     const std::string* word = signature.WordFor(index, words);
     if (word == nullptr) return Stored{};
     return Read<Stored>(*word, signature.Describe(index));
@@ -124,7 +125,8 @@ RoutineTable::Routine MakeRoutine(F routine, std::shared_ptr<const Signature> si
         // Braces fix the order: the first bad word is the one reported.
         auto values = [&]<std::size_t... I>(std::index_sequence<I...>) {
             return std::tuple<std::remove_cvref_t<A>...>{Take<A>(*signature, I, call.arguments)...};
-        }(std::index_sequence_for<A...>{});
+        }
+        (std::index_sequence_for<A...>{});
 
         if constexpr (std::is_void_v<R>)
             std::apply(routine, values);
@@ -132,10 +134,12 @@ RoutineTable::Routine MakeRoutine(F routine, std::shared_ptr<const Signature> si
             call.result = platform::Value(std::apply(routine, values));
 
         [&]<std::size_t... I>(std::index_sequence<I...>) {
-            ((kIsOut<A> ? (void)call.outs.emplace_back(signature->Parameter(I).name, platform::Value(std::get<I>(values)))
-                        : (void)0),
+            ((kIsOut<A>
+                  ? (void)call.outs.emplace_back(signature->Parameter(I).name, platform::Value(std::get<I>(values)))
+                  : (void)0),
              ...);
-        }(std::index_sequence_for<A...>{});
+        }
+        (std::index_sequence_for<A...>{});
     };
 }
 
@@ -150,8 +154,9 @@ public:
     template <class R, class... A>
     void Bind(std::string name, R (Owner::*routine)(A...), std::vector<RoutineParameter> parameters) {
         Owner* owner = owner_;
-        Add<R, A...>(std::move(name), [owner, routine](A... a) -> R { return (owner->*routine)(std::forward<A>(a)...); },
-                     std::move(parameters));
+        Add<R, A...>(
+            std::move(name), [owner, routine](A... a) -> R { return (owner->*routine)(std::forward<A>(a)...); },
+            std::move(parameters));
     }
 
     template <class R, class... A>
@@ -162,7 +167,7 @@ public:
     // A lambda, for a routine that also takes something of the form's own (its grid,
     // a list) which no caller could write as a word.
     template <class F>
-        requires requires { &F::operator(); }
+    requires requires { &F::operator(); }
     void Bind(std::string name, F routine, std::vector<RoutineParameter> parameters) {
         BindCallable(std::move(name), std::move(routine), &F::operator(), std::move(parameters));
     }

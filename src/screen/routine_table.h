@@ -26,8 +26,8 @@ public:
 
 struct RoutineCall {
     std::vector<std::string> arguments;
-    std::optional<platform::Value> result;                       // set by functions
-    std::vector<std::pair<std::string, platform::Value>> outs;   // by-reference arguments, by name
+    std::optional<platform::Value> result;                      // set by functions
+    std::vector<std::pair<std::string, platform::Value>> outs;  // by-reference arguments, by name
 };
 
 class RoutineTable {

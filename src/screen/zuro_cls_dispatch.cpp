@@ -19,8 +19,7 @@ void Zuro_clsDispatch::InitDispatch(platform::Date& ServerDate, long& Mode, host
 void Zuro_clsDispatch::InitCForm(platform::Date& /*ServerDate*/, host_services::HostContext& /*Zuro_Global_Obj*/) {
     // The receipt screen is not part of this build yet: the host hears so through
     // its error log, as it would of any method the component does not have.
-    platform::RunHandled(services_.global, "Dispatch: InitCForm - ",
-                         [] { throw platform::RuntimeError(438); });
+    platform::RunHandled(services_.global, "Dispatch: InitCForm - ", [] { throw platform::RuntimeError(438); });
 }
 
 ScreenForm* Zuro_clsDispatch::Form() { return form_.get(); }

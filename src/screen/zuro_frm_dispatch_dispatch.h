@@ -40,7 +40,8 @@ public:
     // ---- controls -------------------------------------------------------------
     // Frames: Frame1(0) the list page's filter frame, Frame1(1) the customer frame,
     // Frame3 the entry page, Frame4 the party fields, Frame5 the two address frames.
-    platform::Frame Frame1_0, Frame1_1, Frame2, Frame3, Frame4, Frame5_0, Frame5_1, Frame6, frameRemarks, FrameAvailable;
+    platform::Frame Frame1_0, Frame1_1, Frame2, Frame3, Frame4, Frame5_0, Frame5_1, Frame6, frameRemarks,
+        FrameAvailable;
     platform::DatePicker dtFromDate, dtToDate, DTDispatchDate;
     platform::TextBox txtCustomer, txtCustomerID, txtSalesman, txtBeat, txtCategory, txtref, txtDocReference, txtDocID,
         txtDocIDTo, txtBillingAddress, txtShippingAddress, txtRemarks;
@@ -215,8 +216,8 @@ public:
     // ---- item look-up, row serials, units of measure ----------------------------------
     // The item list and its two companions, which are made with it and only owned.
     std::unique_ptr<host_services::AutoList> objItemListSpare1, objItemListSpare2;
-    long nDispatchID = 0;              // the dispatch being amended
-    std::int16_t nSerialCounter = 0;   // the last row serial given out
+    long nDispatchID = 0;             // the dispatch being amended
+    std::int16_t nSerialCounter = 0;  // the last row serial given out
     void InitAutolist();
     void SetAutolistOption(long nCol);
     void Add_Unique_Serial(long& nRow, std::int16_t& iResetAll, std::int16_t& bToSet);
@@ -242,13 +243,13 @@ public:
     void WireItemLookupAndUnits();
 
     // ---- item entry, pricing and batches --------------------------------------------------
-    double dUOMRate = 0;        // base units in one unit of the row in hand
-    long nBatchTrack = 0;       // colBatchTrack of the current row
-    long nPriceOption = 0;      // colPriceOption of the current row
+    double dUOMRate = 0;    // base units in one unit of the row in hand
+    long nBatchTrack = 0;   // colBatchTrack of the current row
+    long nPriceOption = 0;  // colPriceOption of the current row
     bool bQtySyntaxError = false;
-    bool bQtyRefused = false;   // refused for stock, or the row carries an ignored free item
-    bool bNoStockRow = false;   // the row's item has no stock: a zero quantity passes
-    bool bUOMTyped = false;     // the user changed the unit cell by hand
+    bool bQtyRefused = false;  // refused for stock, or the row carries an ignored free item
+    bool bNoStockRow = false;  // the row's item has no stock: a zero quantity passes
+    bool bUOMTyped = false;    // the user changed the unit cell by hand
     std::string szGroupID;
     void DTFlexDispatch_AfterColUpdate(int nRow, int nCol, bool& bCancel);
     void GetItemPrice(const std::string& szItemCode, long nRow);
@@ -342,15 +343,15 @@ public:
     bool AdministratorPasswordMatches(const std::string& szTyped);
 
     // ---- saving and printing -------------------------------------------------------
-    std::string szEnteredCustomerCode;   // the customer cmdSave_Click found for the typed name
-    platform::Value vOldRefNumber;       // amendment: the stored note's reference
-    std::uint8_t nOriginalStatus = 0;    // amendment: the stored note's Status
+    std::string szEnteredCustomerCode;        // the customer cmdSave_Click found for the typed name
+    platform::Value vOldRefNumber;            // amendment: the stored note's reference
+    std::uint8_t nOriginalStatus = 0;         // amendment: the stored note's Status
     platform::Date dtOriginalDispatchDate{};  // amendment: the stored note's date
     platform::Date dtPrevDispatchDate{};      // the date of the last note saved
     bool bInTransaction = false;
-    long hWnd = 0;                       // the form's window; a plain host draws none
+    long hWnd = 0;  // the form's window; a plain host draws none
     bool bFlushRow = false;
-    std::string szError;                 // why the journal refused a posting
+    std::string szError;  // why the journal refused a posting
     bool SaveDispatch();
     void CleanUp();
     void InitAfterAmendment(const std::string& szDispatchID);

@@ -47,10 +47,9 @@ std::string ExpandDemoDates(const std::string& text, platform::Date today) {
 }
 
 std::string DemoDataScript(platform::Date today) {
-    const std::string templ = demo_part::Settings() + demo_part::Items() + demo_part::Parties() +
-                              demo_part::Stock() + demo_part::SalesConfirmations() +
-                              demo_part::PurchaseOrders() + demo_part::Dispatches() + demo_part::Accounts() +
-                              demo_part::Schemes() + demo_part::Numbering();
+    const std::string templ = demo_part::Settings() + demo_part::Items() + demo_part::Parties() + demo_part::Stock() +
+                              demo_part::SalesConfirmations() + demo_part::PurchaseOrders() + demo_part::Dispatches() +
+                              demo_part::Accounts() + demo_part::Schemes() + demo_part::Numbering();
     return ExpandDemoDates(templ, today);
 }
 

@@ -16,8 +16,10 @@ namespace sql {
 std::size_t MatchingParen(const Tokens& tokens, std::size_t open, std::size_t end) {
     int depth = 0;
     for (std::size_t i = open; i < end; ++i) {
-        if (IsSymbol(tokens[i], "(")) ++depth;
-        else if (IsSymbol(tokens[i], ")") && --depth == 0) return i;
+        if (IsSymbol(tokens[i], "("))
+            ++depth;
+        else if (IsSymbol(tokens[i], ")") && --depth == 0)
+            return i;
     }
     ThrowSyntaxError(tokens[open].text);
 }
@@ -29,8 +31,10 @@ std::vector<Tokens> SplitArguments(const Tokens& tokens, std::size_t begin, std:
     int depth = 0;
     for (std::size_t i = begin; i < end; ++i) {
         const Token& token = tokens[i];
-        if (IsSymbol(token, "(")) ++depth;
-        else if (IsSymbol(token, ")")) --depth;
+        if (IsSymbol(token, "("))
+            ++depth;
+        else if (IsSymbol(token, ")"))
+            --depth;
         if (depth == 0 && IsSymbol(token, ",")) {
             if (current.empty()) ThrowSyntaxError(",");
             arguments.push_back(std::move(current));
@@ -76,14 +80,14 @@ bool EndsFromList(const Token& token) {
 
 // Words that may follow a table in a FROM list and so are not its alias.
 bool FollowsTableSource(const Token& token) {
-    return EndsFromList(token) || IsAnyWord(token, {"join", "inner", "left", "right", "full", "cross", "outer",
-                                                    "natural", "using", "with"});
+    return EndsFromList(token) ||
+           IsAnyWord(token, {"join", "inner", "left", "right", "full", "cross", "outer", "natural", "using", "with"});
 }
 
 // Table hints of the server that SQLite has no use for: WITH (NOLOCK) and the like.
 bool IsTableHint(const Token& token) {
-    return IsAnyWord(token, {"nolock", "readuncommitted", "readcommitted", "rowlock", "updlock", "holdlock",
-                             "readpast", "tablock", "paglock", "xlock"});
+    return IsAnyWord(token, {"nolock", "readuncommitted", "readcommitted", "rowlock", "updlock", "holdlock", "readpast",
+                             "tablock", "paglock", "xlock"});
 }
 
 // "dbo." before a name goes: SQLite knows one owner only.
@@ -92,8 +96,8 @@ Tokens WithoutOwner(const Tokens& tokens) {
     for (std::size_t i = 0; i < tokens.size(); ++i) {
         const Token& token = tokens[i];
         bool owner = (token.kind == TokenKind::Word || token.kind == TokenKind::QuotedName) &&
-                     EqualsIgnoringCase(token.text, "dbo") &&
-                     i + 1 < tokens.size() && IsSymbol(tokens[i + 1], ".") && (i == 0 || !IsSymbol(tokens[i - 1], "."));
+                     EqualsIgnoringCase(token.text, "dbo") && i + 1 < tokens.size() && IsSymbol(tokens[i + 1], ".") &&
+                     (i == 0 || !IsSymbol(tokens[i - 1], "."));
         if (owner) {
             ++i;  // the dot
             if (i + 1 < tokens.size()) {
@@ -300,7 +304,7 @@ private:
         if (token.kind == TokenKind::Variable) {
             Token out = MakeWord(EqualsIgnoringCase(token.text, "@@identity")   ? "last_insert_rowid()"
                                  : EqualsIgnoringCase(token.text, "@@rowcount") ? "changes()"
-                                                                                  : "");
+                                                                                : "");
             if (out.text.empty())
                 throw platform::RuntimeError(platform::err::DatabaseError,
                                              "Must declare the scalar variable \"" + token.text + "\".");

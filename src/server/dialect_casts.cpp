@@ -61,8 +61,10 @@ SqlType ParseType(const Tokens& tokens) {
         type.scale = 4;
     } else if (name == "decimal" || name == "numeric" || name == "dec") {
         type.target = Target::Decimal;
-        if (sizes.size() == 2) type.scale = SmallNumber(sizes[1]);
-        else if (!sizes.empty()) SmallNumber(sizes[0]);
+        if (sizes.size() == 2)
+            type.scale = SmallNumber(sizes[1]);
+        else if (!sizes.empty())
+            SmallNumber(sizes[0]);
     } else if (name == "varchar" || name == "nvarchar" || name == "char" || name == "nchar" || name == "text" ||
                name == "ntext" || name == "sysname") {
         type.target = Target::Text;
@@ -80,7 +82,6 @@ SqlType ParseType(const Tokens& tokens) {
     }
     return type;
 }
-
 
 Tokens CastAs(const Tokens& expression, const char* sqliteType) {
     Tokens out{MakeWord("CAST"), MakeSymbol("(")};
@@ -148,9 +149,12 @@ Tokens RewriteCast(const Tokens& argument, const RangeTranslator& translate) {
     std::optional<std::size_t> as;
     int depth = 0;
     for (std::size_t i = 0; i < argument.size(); ++i) {
-        if (IsSymbol(argument[i], "(")) ++depth;
-        else if (IsSymbol(argument[i], ")")) --depth;
-        else if (depth == 0 && IsWord(argument[i], "as")) as = i;
+        if (IsSymbol(argument[i], "("))
+            ++depth;
+        else if (IsSymbol(argument[i], ")"))
+            --depth;
+        else if (depth == 0 && IsWord(argument[i], "as"))
+            as = i;
     }
     if (!as || *as == 0) ThrowSyntaxError(argument.empty() ? ")" : argument.front().text);
     Tokens expression(argument.begin(), argument.begin() + static_cast<std::ptrdiff_t>(*as));
@@ -170,9 +174,10 @@ Tokens RewriteConvert(const std::vector<Tokens>& arguments, const RangeTranslato
     if (type.target != Target::Text) ThrowSyntaxError(styleTokens.front().text);
     auto pattern = StylePattern(style);
     if (!pattern)
-        throw platform::RuntimeError(platform::err::DatabaseError,
-                                     std::to_string(style) +
-                                         " is not a valid style number when converting from datetime to a character string.");
+        throw platform::RuntimeError(
+            platform::err::DatabaseError,
+            std::to_string(style) +
+                " is not a valid style number when converting from datetime to a character string.");
     return Limited(MakeCall("strftime", {{MakeText(*pattern)}, expression}), type);
 }
 

@@ -15,10 +15,9 @@ std::string Lower(std::string text) {
 
 void RequireArguments(const std::string& name, const std::vector<Tokens>& arguments, std::size_t count) {
     if (arguments.size() != count)
-        throw platform::RuntimeError(platform::err::DatabaseError, "The " + name + " function requires " +
-                                                                       std::to_string(count) + " argument(s).");
+        throw platform::RuntimeError(platform::err::DatabaseError,
+                                     "The " + name + " function requires " + std::to_string(count) + " argument(s).");
 }
-
 
 Tokens Parenthesised(const Tokens& inner) {
     Tokens out{MakeSymbol("(")};

@@ -31,11 +31,13 @@ platform::ResultSet EmbeddedConnection::RunStatement(const std::string& statemen
     // that stands in the statement where the call stood; the tables go when the
     // statement is done.
     TableFunctionTables tables(*this);
-    std::string translated = TranslateStatement(statement, [&](const TableFunctionCall& call) { return tables.Fill(call); });
+    std::string translated =
+        TranslateStatement(statement, [&](const TableFunctionCall& call) { return tables.Fill(call); });
     return database_.Run(translated);
 }
 
-platform::RecordsetPtr EmbeddedConnection::RunProcedure(const std::string& name, const platform::ParameterList& parameters) {
+platform::RecordsetPtr EmbeddedConnection::RunProcedure(const std::string& name,
+                                                        const platform::ParameterList& parameters) {
     return std::make_shared<platform::Recordset>(CallProcedure(name, parameters));
 }
 
@@ -86,7 +88,9 @@ void EmbeddedConnection::RollbackTrans() {
 
 bool EmbeddedConnection::InTransaction() const { return database_.InTransaction(); }
 
-platform::ResultSet EmbeddedConnection::ExecuteNative(const std::string& sqliteSql) { return database_.RunAll(sqliteSql); }
+platform::ResultSet EmbeddedConnection::ExecuteNative(const std::string& sqliteSql) {
+    return database_.RunAll(sqliteSql);
+}
 
 void EmbeddedConnection::ExecuteScript(const std::string& script) { database_.Exec(script); }
 

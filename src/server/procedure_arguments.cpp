@@ -93,16 +93,21 @@ platform::Value ToServerInt(const platform::Value& value) {
         case Kind::Integer: return CheckedInt(static_cast<double>(value.AsInteger()));
         case Kind::Double: return CheckedInt(value.AsDouble());
         case Kind::Boolean: return value.AsBoolean() ? 1 : 0;
-        case Kind::Date: ThrowServer("Implicit conversion from data type datetime to int is not allowed. Use the CONVERT function to run this query.");
+        case Kind::Date:
+            ThrowServer(
+                "Implicit conversion from data type datetime to int is not allowed. Use the CONVERT function to run "
+                "this query.");
         case Kind::Text: {
             std::string trimmed = Trimmed(value.AsText());
             if (trimmed.empty()) return 0;
             long long whole = 0;
             const char* begin = trimmed.c_str() + (trimmed[0] == '+' ? 1 : 0);
             auto [end, ec] = std::from_chars(begin, trimmed.c_str() + trimmed.size(), whole);
-            if (ec == std::errc::result_out_of_range) ThrowServer("The conversion of the varchar value '" + value.AsText() + "' overflowed an int column.");
+            if (ec == std::errc::result_out_of_range)
+                ThrowServer("The conversion of the varchar value '" + value.AsText() + "' overflowed an int column.");
             if (ec != std::errc() || end != trimmed.c_str() + trimmed.size())
-                ThrowServer("Conversion failed when converting the varchar value '" + value.AsText() + "' to data type int.");
+                ThrowServer("Conversion failed when converting the varchar value '" + value.AsText() +
+                            "' to data type int.");
             return CheckedInt(static_cast<double>(whole));
         }
     }
@@ -116,7 +121,10 @@ platform::Value ToServerFloat(const platform::Value& value) {
         case Kind::Integer: return static_cast<double>(value.AsInteger());
         case Kind::Double: return value.AsDouble();
         case Kind::Boolean: return value.AsBoolean() ? 1.0 : 0.0;
-        case Kind::Date: ThrowServer("Implicit conversion from data type datetime to float is not allowed. Use the CONVERT function to run this query.");
+        case Kind::Date:
+            ThrowServer(
+                "Implicit conversion from data type datetime to float is not allowed. Use the CONVERT function to run "
+                "this query.");
         case Kind::Text:
             if (auto number = StrictNumber(value.AsText())) return *number;
             ThrowServer("Error converting data type varchar to float.");
@@ -142,7 +150,10 @@ platform::Value ToServerDateTime(const platform::Value& value) {
         case Kind::Date: return DateTimeText(value.AsDate());
         case Kind::Integer:
         case Kind::Double: return DateTimeText(platform::Date{platform::ToNumber(value)});
-        case Kind::Boolean: ThrowServer("Implicit conversion from data type bit to datetime is not allowed. Use the CONVERT function to run this query.");
+        case Kind::Boolean:
+            ThrowServer(
+                "Implicit conversion from data type bit to datetime is not allowed. Use the CONVERT function to run "
+                "this query.");
         case Kind::Text: {
             std::string trimmed = Trimmed(value.AsText());
             // The server's empty date is the first of its calendar.
@@ -161,13 +172,17 @@ platform::Value ToServerBit(const platform::Value& value) {
         case Kind::Boolean: return value.AsBoolean() ? 1 : 0;
         case Kind::Integer: return value.AsInteger() != 0 ? 1 : 0;
         case Kind::Double: return value.AsDouble() != 0.0 ? 1 : 0;
-        case Kind::Date: ThrowServer("Implicit conversion from data type datetime to bit is not allowed. Use the CONVERT function to run this query.");
+        case Kind::Date:
+            ThrowServer(
+                "Implicit conversion from data type datetime to bit is not allowed. Use the CONVERT function to run "
+                "this query.");
         case Kind::Text: {
             std::string trimmed = platform::UCase(Trimmed(value.AsText()));
             if (trimmed == "TRUE") return 1;
             if (trimmed == "FALSE") return 0;
             if (auto number = StrictNumber(trimmed); number && !trimmed.empty()) return *number != 0.0 ? 1 : 0;
-            ThrowServer("Conversion failed when converting the varchar value '" + value.AsText() + "' to data type bit.");
+            ThrowServer("Conversion failed when converting the varchar value '" + value.AsText() +
+                        "' to data type bit.");
         }
     }
     return platform::Value::Null();
@@ -187,7 +202,8 @@ void ProcedureArguments::ExpectAtMost(std::size_t count) const {
 const platform::Value& ProcedureArguments::Required(std::size_t index) const {
     if (index >= values_.size()) {
         std::string name = index < declaredNames_.size() ? declaredNames_[index] : "@" + std::to_string(index + 1);
-        ThrowServer("Procedure or function '" + procedure_ + "' expects parameter '" + name + "', which was not supplied.");
+        ThrowServer("Procedure or function '" + procedure_ + "' expects parameter '" + name +
+                    "', which was not supplied.");
     }
     return values_[index];
 }

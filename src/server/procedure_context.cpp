@@ -5,7 +5,9 @@
 namespace server {
 
 ProcedureContext::ProcedureContext(EmbeddedConnection& connection, std::string objectName)
-    : connection_(connection), objectName_(std::move(objectName)), changesAtStart_(connection.Database().TotalChanges()) {}
+    : connection_(connection),
+      objectName_(std::move(objectName)),
+      changesAtStart_(connection.Database().TotalChanges()) {}
 
 platform::ResultSet ProcedureContext::Query(const std::string& sqliteSql, std::initializer_list<platform::Value> bind) {
     return Query(sqliteSql, std::vector<platform::Value>(bind));

@@ -46,9 +46,12 @@ std::string CanonicalObjectName(std::string_view name) {
     std::size_t cut = std::string_view::npos;
     bool inBracket = false;
     for (std::size_t i = 0; i < name.size(); ++i) {
-        if (name[i] == '[') inBracket = true;
-        else if (name[i] == ']') inBracket = false;
-        else if (name[i] == '.' && !inBracket) cut = i;
+        if (name[i] == '[')
+            inBracket = true;
+        else if (name[i] == ']')
+            inBracket = false;
+        else if (name[i] == '.' && !inBracket)
+            cut = i;
     }
     if (cut != std::string_view::npos) {
         if (Unbracketed(name.substr(0, cut)) != "dbo") return Unbracketed(name);  // another owner: kept, so no match

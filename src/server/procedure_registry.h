@@ -20,7 +20,8 @@ class ProcedureContext;
 // (ProcedureContext::WithRowCount).
 using Procedure = std::function<std::vector<platform::ResultSet>(ProcedureContext&, const platform::ParameterList&)>;
 // A table function answers with its rows; a statement reads them as a table.
-using TableFunction = std::function<platform::ResultSet(ProcedureContext&, const std::vector<platform::Value>& arguments)>;
+using TableFunction =
+    std::function<platform::ResultSet(ProcedureContext&, const std::vector<platform::Value>& arguments)>;
 
 class ProcedureRegistry {
 public:

@@ -10,8 +10,7 @@ namespace {
 // Dates are text so that they sort and compare as the server compared them; a date
 // stored without its time ('2024-05-01') would sort before midnight of that day
 // ('2024-05-01 00:00:00') and fall out of every day range, so the form is enforced.
-constexpr const char* kDateTimePattern =
-    "'[0-9][0-9][0-9][0-9]-[01][0-9]-[0-3][0-9] [0-2][0-9]:[0-5][0-9]:[0-5][0-9]'";
+constexpr const char* kDateTimePattern = "'[0-9][0-9][0-9][0-9]-[01][0-9]-[0-3][0-9] [0-2][0-9]:[0-5][0-9]:[0-5][0-9]'";
 
 std::string CheckFor(const std::string& column, const std::string& type) {
     if (type == "DATETIME") return " CHECK (" + column + " GLOB " + kDateTimePattern + ")";

@@ -101,9 +101,9 @@ platform::ResultSet SqliteDatabase::Step(sqlite3_stmt* statement, const std::vec
     ResetGuard guard(statement);
     const int expected = sqlite3_bind_parameter_count(statement);
     if (expected != static_cast<int>(bind.size()))
-        throw platform::RuntimeError(platform::err::DatabaseError,
-                                     "The statement takes " + std::to_string(expected) + " value(s), " +
-                                         std::to_string(bind.size()) + " given: " + sqlite3_sql(statement));
+        throw platform::RuntimeError(platform::err::DatabaseError, "The statement takes " + std::to_string(expected) +
+                                                                       " value(s), " + std::to_string(bind.size()) +
+                                                                       " given: " + sqlite3_sql(statement));
     for (std::size_t i = 0; i < bind.size(); ++i) BindValue(statement, static_cast<int>(i) + 1, bind[i]);
 
     platform::ResultSet result;
@@ -135,7 +135,8 @@ platform::ResultSet SqliteDatabase::Step(sqlite3_stmt* statement, const std::vec
     }
     // sqlite3_changes keeps the count of the last INSERT, UPDATE or DELETE, so a
     // statement that changed nothing (or was not one of those) reports 0 itself.
-    if (columns == 0) result.rowsAffected = TotalChanges() == changesBefore ? 0 : static_cast<long>(sqlite3_changes64(handle_));
+    if (columns == 0)
+        result.rowsAffected = TotalChanges() == changesBefore ? 0 : static_cast<long>(sqlite3_changes64(handle_));
     return result;
 }
 

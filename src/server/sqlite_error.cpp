@@ -8,8 +8,6 @@ void ThrowSqliteError(sqlite3* database) {
     throw platform::RuntimeError(platform::err::DatabaseError, sqlite3_errmsg(database));
 }
 
-void ThrowSqliteError(int code) {
-    throw platform::RuntimeError(platform::err::DatabaseError, sqlite3_errstr(code));
-}
+void ThrowSqliteError(int code) { throw platform::RuntimeError(platform::err::DatabaseError, sqlite3_errstr(code)); }
 
 }  // namespace server

@@ -26,7 +26,8 @@ platform::Value TextValue(std::string text, const char* declaredType) {
         // declared type; its text form still says what it is.
         if (auto date = platform::ParseIsoDate(text)) return *date;
     }
-    if (declared == "BIT" && platform::IsNumericText(text)) return static_cast<long long>(platform::ToNumber(text) != 0);
+    if (declared == "BIT" && platform::IsNumericText(text))
+        return static_cast<long long>(platform::ToNumber(text) != 0);
     return text;
 }
 
@@ -35,7 +36,8 @@ platform::Value TextValue(std::string text, const char* declaredType) {
 std::string DateTimeText(platform::Date date) {
     const platform::DateParts p = platform::SplitDate(date);
     char text[32];
-    std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", p.year, p.month, p.day, p.hour, p.minute, p.second);
+    std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", p.year, p.month, p.day, p.hour, p.minute,
+                  p.second);
     return text;
 }
 

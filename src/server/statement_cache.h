@@ -24,8 +24,8 @@ public:
     // tail is set and the caller owns (and finalizes) what comes back.
     struct Prepared {
         sqlite3_stmt* statement = nullptr;
-        bool owned = false;     // the caller must finalize it
-        std::string tail;       // text after the first statement, blanks trimmed
+        bool owned = false;  // the caller must finalize it
+        std::string tail;    // text after the first statement, blanks trimmed
     };
     Prepared Prepare(const std::string& sql);
 

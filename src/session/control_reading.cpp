@@ -145,9 +145,7 @@ void AddListLines(const platform::ListControl& list, bool withTicks, std::vector
 std::vector<std::string> DescribeControl(const platform::Control& control) {
     std::vector<std::string> lines{StateLine(control)};
     switch (control.Kind()) {
-        case ControlKind::ListView:
-            AddListViewLines(static_cast<const platform::ListView&>(control), lines);
-            break;
+        case ControlKind::ListView: AddListViewLines(static_cast<const platform::ListView&>(control), lines); break;
         case ControlKind::ListBox: {
             const auto& list = static_cast<const platform::ListBox&>(control);
             AddListLines(list, list.CheckBoxes, lines);

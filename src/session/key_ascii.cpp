@@ -8,7 +8,9 @@ namespace session {
 std::optional<int> KeyAscii(int keyCode, int shift) {
     if (shift & platform::keys::AltMask) return std::nullopt;
     switch (keyCode) {
-        case platform::keys::Backspace: case platform::keys::Enter: case platform::keys::Escape: return keyCode;
+        case platform::keys::Backspace:
+        case platform::keys::Enter:
+        case platform::keys::Escape: return keyCode;
         default: break;
     }
     // Ctrl with a letter types the control character of that letter (Ctrl+A is 1).

@@ -58,8 +58,7 @@ std::vector<std::string> SplitWords(std::string_view line, int lineNumber) {
         }
         std::size_t start = pos;
         while (pos < line.size() && !IsBlank(line[pos])) {
-            if (line[pos] == '"')
-                throw ScriptError(lineNumber, "a quote inside a word; quote the whole word");
+            if (line[pos] == '"') throw ScriptError(lineNumber, "a quote inside a word; quote the whole word");
             ++pos;
         }
         words.emplace_back(line.substr(start, pos - start));

@@ -1,8 +1,8 @@
 #include "session/script_words.h"
 
+#include <fmt/format.h>
 #include <cctype>
 #include <charconv>
-#include <fmt/format.h>
 
 #include "platform/convert.h"
 #include "session/script_error.h"
@@ -20,21 +20,18 @@ bool ParseLong(const std::string& text, long& value) {
 
 }  // namespace
 
-std::string ControlName::FullName() const {
-    return index < 0 ? name : fmt::format("{}({})", name, index);
-}
+std::string ControlName::FullName() const { return index < 0 ? name : fmt::format("{}({})", name, index); }
 
 void RequireArguments(const ScriptCommand& command, std::size_t min, std::size_t max, const char* usage) {
     std::size_t count = command.ArgumentCount();
-    if (count < min || count > max)
-        throw ScriptError(command.line, fmt::format("{} takes {}", command.Verb(), usage));
+    if (count < min || count > max) throw ScriptError(command.line, fmt::format("{} takes {}", command.Verb(), usage));
 }
 
 long IntegerWord(const ScriptCommand& command, std::size_t n, const char* what) {
     long value = 0;
     if (!ParseLong(command.Argument(n), value))
-        throw ScriptError(command.line, fmt::format("{} must be a whole number, not {}", what,
-                                                    Quote(command.Argument(n))));
+        throw ScriptError(command.line,
+                          fmt::format("{} must be a whole number, not {}", what, Quote(command.Argument(n))));
     return value;
 }
 
@@ -59,9 +56,9 @@ platform::Date DateWord(const ScriptCommand& command, std::size_t n) {
 ControlName ControlWord(const ScriptCommand& command, std::size_t n) {
     const std::string& word = command.Argument(n);
     auto bad = [&] {
-        return ScriptError(command.line,
-                           fmt::format("{} is not a control name (a name, or a name and an index: cmdClose(1))",
-                                       Quote(word)));
+        return ScriptError(
+            command.line,
+            fmt::format("{} is not a control name (a name, or a name and an index: cmdClose(1))", Quote(word)));
     };
     if (word.empty() || !std::isalpha(static_cast<unsigned char>(word.front()))) throw bad();
     std::size_t open = word.find('(');

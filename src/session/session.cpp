@@ -16,7 +16,8 @@ std::string WhyNoFocus(const platform::Control& control) {
     if (!control.Visible) return fmt::format("{} is hidden", control.FullName());
     if (!control.Enabled) return fmt::format("{} is disabled", control.FullName());
     for (const platform::Control* frame = control.Container; frame != nullptr; frame = frame->Container) {
-        if (!frame->Visible) return fmt::format("{} lies in {}, which is hidden", control.FullName(), frame->FullName());
+        if (!frame->Visible)
+            return fmt::format("{} lies in {}, which is hidden", control.FullName(), frame->FullName());
         if (!frame->Enabled)
             return fmt::format("{} lies in {}, which is disabled", control.FullName(), frame->FullName());
     }

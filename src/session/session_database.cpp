@@ -8,7 +8,8 @@
 
 namespace session {
 
-SessionDatabase::SessionDatabase(platform::PrivateFolder& folder, std::optional<std::string> defaultFile) : folder_(folder) {
+SessionDatabase::SessionDatabase(platform::PrivateFolder& folder, std::optional<std::string> defaultFile)
+    : folder_(folder) {
     if (defaultFile) {
         source_ = Source::File;
         file_ = *defaultFile;
@@ -20,7 +21,8 @@ SessionDatabase::~SessionDatabase() = default;
 void SessionDatabase::Choose(const std::string& what) {
     if (chosen_) throw std::invalid_argument("the session has chosen its database already");
     if (connection_)
-        throw std::invalid_argument("the database is in use already: `database` comes before the first line that needs it");
+        throw std::invalid_argument(
+            "the database is in use already: `database` comes before the first line that needs it");
     if (what == "demo") {
         source_ = Source::Demo;
     } else if (what == "empty") {
@@ -46,7 +48,9 @@ void SessionDatabase::Open() {
         auto path = (folder_.Path() / "session.db").string();
         connection_ = server::CreateDatabase(path, source_ == Source::Demo);
     } catch (const std::exception& e) {
-        const char* what = source_ == Source::Demo ? "the demo database" : source_ == Source::Empty ? "an empty database" : nullptr;
+        const char* what = source_ == Source::Demo    ? "the demo database"
+                           : source_ == Source::Empty ? "an empty database"
+                                                      : nullptr;
         throw std::runtime_error(what ? std::string("cannot make ") + what + ": " + e.what()
                                       : "cannot open the database " + file_ + ": " + e.what());
     }

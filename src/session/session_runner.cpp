@@ -52,8 +52,8 @@ int SessionRunner::Run(std::string_view scriptText) {
             session.Fail(command, e.what());
         } catch (const platform::RuntimeError& e) {
             // The screen's handlers catch their own errors; one that got out is a fault.
-            session.Fail(command, fmt::format("run-time error {} not handled by the screen: {}", e.Number(),
-                                              e.Description()));
+            session.Fail(command,
+                         fmt::format("run-time error {} not handled by the screen: {}", e.Number(), e.Description()));
         } catch (const std::exception& e) {
             session.Fail(command, fmt::format("unexpected error: {}", e.what()));
         }

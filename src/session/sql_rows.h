@@ -10,6 +10,6 @@
 namespace session {
 
 std::vector<std::string> RowTexts(const platform::ResultSet& result);  // "a|b" each
-std::string RowsText(const platform::ResultSet& result);                // "a|b;c|d"
+std::string RowsText(const platform::ResultSet& result);               // "a|b;c|d"
 
 }  // namespace session

@@ -65,7 +65,8 @@ void Printed(Session& session, const ScriptCommand& command) {
     for (std::string detail : session.transcript.TakePrints()) {
         const auto arrow = detail.find(" -> ");
         const auto route = detail.rfind(" (");
-        if (arrow != std::string::npos && route != std::string::npos && route > arrow) detail.erase(arrow, route - arrow);
+        if (arrow != std::string::npos && route != std::string::npos && route > arrow)
+            detail.erase(arrow, route - arrow);
         shown.push_back(detail);
     }
     const bool held = std::find(shown.begin(), shown.end(), command.Argument(2)) != shown.end();
@@ -206,11 +207,12 @@ void Errors(Session& session, const ScriptCommand& command) {
 
 const std::map<std::string, ExpectHandler>& Checks() {
     static const std::map<std::string, ExpectHandler> checks{
-        {"status", Status}, {"message", Message}, {"numbered", Numbered}, {"focus", Focus},
-        {"text", Text},     {"tag", Tag},         {"caption", Caption},   {"visible", Visible},
-        {"enabled", Enabled}, {"field", Field},   {"list", List},         {"items", Items},
-        {"checked", Checked}, {"cell", Cell},     {"rows", Rows},         {"sql", Sql},
-        {"result", Result}, {"errors", Errors},   {"current", Current}, {"selected", Selected}, {"printed", Printed},
+        {"status", Status},   {"message", Message}, {"numbered", Numbered}, {"focus", Focus},
+        {"text", Text},       {"tag", Tag},         {"caption", Caption},   {"visible", Visible},
+        {"enabled", Enabled}, {"field", Field},     {"list", List},         {"items", Items},
+        {"checked", Checked}, {"cell", Cell},       {"rows", Rows},         {"sql", Sql},
+        {"result", Result},   {"errors", Errors},   {"current", Current},   {"selected", Selected},
+        {"printed", Printed},
     };
     return checks;
 }

@@ -42,7 +42,9 @@ void GridGoto(Session& session, const ScriptCommand& command, std::size_t rowWor
 
 void GridKey(Session& session, const ScriptCommand& command, std::size_t codeWord) {
     int keyCode = static_cast<int>(IntegerWord(command, codeWord, "the key code"));
-    int shift = command.ArgumentCount() > codeWord ? static_cast<int>(IntegerWord(command, codeWord + 1, "the shift state")) : 0;
+    int shift = command.ArgumentCount() > codeWord
+                    ? static_cast<int>(IntegerWord(command, codeWord + 1, "the shift state"))
+                    : 0;
     auto& grid = FocusedGrid(session, command);
     PressGridKey(session.Form(command), grid, keyCode, shift);
 }

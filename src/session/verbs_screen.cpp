@@ -83,7 +83,8 @@ void Call(Session& session, const ScriptCommand& command) {
         throw ScriptError(command.line, fmt::format("{}: {}", name, e.what()));
     }
     if (call.result) session.transcript.Line("result " + platform::ToText(*call.result));
-    for (const auto& [outName, value] : call.outs) session.transcript.Line(fmt::format("out {} {}", outName, platform::ToText(value)));
+    for (const auto& [outName, value] : call.outs)
+        session.transcript.Line(fmt::format("out {} {}", outName, platform::ToText(value)));
     session.lastCall = std::move(call);
 }
 

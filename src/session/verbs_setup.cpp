@@ -45,8 +45,7 @@ void Setting(Session& session, const ScriptCommand& command) {
     RequireArguments(command, 2, 2, "a setting's name and its value");
     const std::string& name = command.Argument(1);
     const std::string& value = command.Argument(2);
-    if (auto problem = host::Settings::Problem(name, value); !problem.empty())
-        throw ScriptError(command.line, problem);
+    if (auto problem = host::Settings::Problem(name, value); !problem.empty()) throw ScriptError(command.line, problem);
     session.settings.Set(name, value);
 }
 

@@ -44,13 +44,18 @@ void Type(Session& session, const ScriptCommand& command) {
         session.GiveFocus(command, box);
         if (box.Locked) throw ActionRefused(fmt::format("{} is locked", box.FullName()));
         // Typed over, the same text still raises Change once.
-        if (box.Text() == text) box.Change.Raise(); else box.SetText(text);
+        if (box.Text() == text)
+            box.Change.Raise();
+        else
+            box.SetText(text);
     } else if (control.Kind() == ControlKind::ComboBox) {
         auto& combo = static_cast<platform::ComboBox&>(control);
         session.GiveFocus(command, combo);
-        if (combo.Locked || combo.Style == 2)
-            throw ActionRefused(fmt::format("{} takes no typing", combo.FullName()));
-        if (combo.Text() == text) combo.Change.Raise(); else combo.SetText(text);
+        if (combo.Locked || combo.Style == 2) throw ActionRefused(fmt::format("{} takes no typing", combo.FullName()));
+        if (combo.Text() == text)
+            combo.Change.Raise();
+        else
+            combo.SetText(text);
     } else {
         throw WrongKind(command, control, "a text box or a combo box");
     }
@@ -146,7 +151,10 @@ void Select(Session& session, const ScriptCommand& command) {
                       : RowWithin(command, 2, 1, list.ListCount(), list) - 1;
     session.GiveFocus(command, list);
     // A click on the entry that is chosen already still raises Click.
-    if (list.ListIndex() == index) list.Click.Raise(); else list.SetListIndex(index);
+    if (list.ListIndex() == index)
+        list.Click.Raise();
+    else
+        list.SetListIndex(index);
 }
 
 void SetDate(Session& session, const ScriptCommand& command) {

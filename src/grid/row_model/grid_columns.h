@@ -61,7 +61,7 @@ enum class ColumnAlign { Default, Left, Right };
 
 struct ColumnDefinition {
     GridColumn column;
-    std::string_view name;                // the column's name in the program
+    std::string_view name;                    // the column's name in the program
     std::optional<std::string_view> heading;  // none: the heading is never written
     int width;
     ColumnAlign align;

@@ -13,10 +13,13 @@ void Zuro_frmDispatch_Dispatch::InitDTFlexDispatch() {
         DTFlexDispatch.SetGridCols(kGridColumnCount);
 
         for (const ColumnDefinition& definition : ColumnTable()) {
-            if (definition.heading) DTFlexDispatch.SetColHeading(definition.column, messages.GetLabel(std::string(*definition.heading)));
+            if (definition.heading)
+                DTFlexDispatch.SetColHeading(definition.column, messages.GetLabel(std::string(*definition.heading)));
             DTFlexDispatch.SetColWidth(definition.column, definition.width);
-            if (definition.align == ColumnAlign::Left) DTFlexDispatch.SetColAlignment(definition.column, global.GetAlignLeft());
-            if (definition.align == ColumnAlign::Right) DTFlexDispatch.SetColAlignment(definition.column, global.GetAlignRight());
+            if (definition.align == ColumnAlign::Left)
+                DTFlexDispatch.SetColAlignment(definition.column, global.GetAlignLeft());
+            if (definition.align == ColumnAlign::Right)
+                DTFlexDispatch.SetColAlignment(definition.column, global.GetAlignRight());
         }
 
         DTFlexDispatch.SetColFormat(colStoredQty, global.GetNumberFormat(0));

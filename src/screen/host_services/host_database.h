@@ -30,13 +30,14 @@ public:
     // The first column of the query's first row; Null when there is no row.
     virtual platform::Value LookupValue(platform::Connection& connection, const std::string& sql) = 0;
     // The name field of the row whose key field equals the key value; empty when none.
-    virtual std::string LookupName(const std::string& table, const std::string& keyField,
-                                   const std::string& nameField, const std::string& keyValue) = 0;
+    virtual std::string LookupName(const std::string& table, const std::string& keyField, const std::string& nameField,
+                                   const std::string& keyValue) = 0;
     // The key field of the row whose name field equals the name value; empty when none.
-    virtual std::string LookupCode(const std::string& table, const std::string& keyField,
-                                   const std::string& nameField, const std::string& nameValue) = 0;
+    virtual std::string LookupCode(const std::string& table, const std::string& keyField, const std::string& nameField,
+                                   const std::string& nameValue) = 0;
     // The number the key field holds for the document the key names; 0 when none.
-    virtual double LookupFieldByKey(const std::string& table, const std::string& keyField, const std::string& keyValue) = 0;
+    virtual double LookupFieldByKey(const std::string& table, const std::string& keyField,
+                                    const std::string& keyValue) = 0;
     // The text with every single quote doubled, fit to stand in an SQL literal.
     virtual std::string EscapeQuotes(const std::string& text) = 0;
     // The value as text; Null gives empty text.

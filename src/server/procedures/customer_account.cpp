@@ -14,7 +14,8 @@ constexpr const char* kLiveInvoice = "(Status & 64) = 0";
 
 // (customer): advances less unpaid bills; negative when the customer owes. No row
 // for a customer the server does not know.
-std::vector<platform::ResultSet> OutstandingBalance(ProcedureContext& context, const platform::ParameterList& parameters) {
+std::vector<platform::ResultSet> OutstandingBalance(ProcedureContext& context,
+                                                    const platform::ParameterList& parameters) {
     const ProcedureArguments args("sp_get_Customer_OutStanding_Balance", parameters, {"@CustomerID"});
     args.ExpectAtMost(1);
     return {context.Query(std::string(R"SQL(
@@ -31,8 +32,8 @@ std::vector<platform::ResultSet> OverDue(ProcedureContext& context, const platfo
     const ProcedureArguments args("sp_get_Customer_OverDue", parameters, {"@CustomerID", "@Date", "@Kind"});
     args.ExpectAtMost(3);
     const bool overdue = args.IntOr(2, 0) == 1;
-    const std::string due = overdue ? "PaymentDate IS NOT NULL AND PaymentDate < ?"
-                                    : "(PaymentDate IS NULL OR PaymentDate >= ?)";
+    const std::string due =
+        overdue ? "PaymentDate IS NOT NULL AND PaymentDate < ?" : "(PaymentDate IS NULL OR PaymentDate >= ?)";
     return {context.Query("SELECT IFNULL(SUM(Balance), 0) AS Amount FROM InvoiceAbstract WHERE CustomerID = ? AND " +
                               std::string(kLiveInvoice) + " AND Balance > 0 AND " + due,
                           {args.Text(0), args.DateTime(1)})};
@@ -42,10 +43,10 @@ std::vector<platform::ResultSet> OverDue(ProcedureContext& context, const platfo
 std::vector<platform::ResultSet> ChequesInHand(ProcedureContext& context, const platform::ParameterList& parameters) {
     const ProcedureArguments args("sp_acc_PartyChqsinhand", parameters, {"@CustomerID"});
     args.ExpectAtMost(1);
-    return {context.Query(
-        "SELECT IFNULL(SUM(Value), 0) AS ChequesInHand FROM Collections "
-        "WHERE CustomerID = ? AND PaymentMode IN (1, 2) AND Deposited = 0 AND Cancelled = 0",
-        {args.Text(0)})};
+    return {
+        context.Query("SELECT IFNULL(SUM(Value), 0) AS ChequesInHand FROM Collections "
+                      "WHERE CustomerID = ? AND PaymentMode IN (1, 2) AND Deposited = 0 AND Cancelled = 0",
+                      {args.Text(0)})};
 }
 
 // (customer name): the number of the customer's bills still open.
@@ -62,9 +63,10 @@ std::vector<platform::ResultSet> InvoiceLimit(ProcedureContext& context, const p
 std::vector<platform::ResultSet> TradeCustomer(ProcedureContext& context, const platform::ParameterList& parameters) {
     const ProcedureArguments args("sp_get_TradeCustomer", parameters, {"@CustomerID"});
     args.ExpectAtMost(1);
-    return {context.Query(
-        "SELECT CustomerID, Company_Name FROM Customer WHERE CustomerID = ? AND Active = 1 AND CustomerCategory BETWEEN 1 AND 3",
-        {args.Text(0)})};
+    return {
+        context.Query("SELECT CustomerID, Company_Name FROM Customer WHERE CustomerID = ? AND Active = 1 AND "
+                      "CustomerCategory BETWEEN 1 AND 3",
+                      {args.Text(0)})};
 }
 
 }  // namespace server::header

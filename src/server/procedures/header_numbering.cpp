@@ -13,8 +13,9 @@ constexpr int kDispatchSerial = 5;
 std::vector<platform::ResultSet> NewDispatchID(ProcedureContext& context, const platform::ParameterList& parameters) {
     const ProcedureArguments args("sp_get_NewDispatchID", parameters);
     args.ExpectAtMost(0);
-    return {context.Query("SELECT IFNULL(MAX(LastNumber), 0) + 1 AS NewDispatchID FROM DocumentNumbers WHERE DocType = ?",
-                          {platform::Value(kDispatchSerial)})};
+    return {
+        context.Query("SELECT IFNULL(MAX(LastNumber), 0) + 1 AS NewDispatchID FROM DocumentNumbers WHERE DocType = ?",
+                      {platform::Value(kDispatchSerial)})};
 }
 
 }  // namespace server::header

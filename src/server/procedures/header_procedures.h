@@ -16,7 +16,8 @@ void RegisterHeaderProcedures(ProcedureRegistry& registry);
 namespace header {
 
 std::vector<platform::ResultSet> NewDispatchID(ProcedureContext& context, const platform::ParameterList& parameters);
-std::vector<platform::ResultSet> OutstandingBalance(ProcedureContext& context, const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> OutstandingBalance(ProcedureContext& context,
+                                                    const platform::ParameterList& parameters);
 std::vector<platform::ResultSet> OverDue(ProcedureContext& context, const platform::ParameterList& parameters);
 std::vector<platform::ResultSet> ChequesInHand(ProcedureContext& context, const platform::ParameterList& parameters);
 std::vector<platform::ResultSet> InvoiceLimit(ProcedureContext& context, const platform::ParameterList& parameters);

@@ -25,8 +25,10 @@ platform::ResultSet ItemsOfDSType(ProcedureContext& context, const std::vector<p
 platform::ResultSet DispatchItemsOfDSType(ProcedureContext& context, const std::vector<platform::Value>& arguments);
 
 // Procedures: field 0 is 1 when the item may be sold, 0 when not.
-std::vector<platform::ResultSet> CheckItemInGroups(ProcedureContext& context, const platform::ParameterList& parameters);
-std::vector<platform::ResultSet> CheckItemInDSType(ProcedureContext& context, const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> CheckItemInGroups(ProcedureContext& context,
+                                                   const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> CheckItemInDSType(ProcedureContext& context,
+                                                   const platform::ParameterList& parameters);
 // The item's units: its sales unit first, then every unit from the base up, each as
 // identifier, text and base units in one.
 std::vector<platform::ResultSet> ItemUnits(ProcedureContext& context, const platform::ParameterList& parameters);

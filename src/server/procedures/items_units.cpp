@@ -27,7 +27,8 @@ bool Holds(ProcedureContext& context, const char* function, const std::vector<pl
 }  // namespace
 
 // (group list, item): the item is an active item of the groups' categories.
-std::vector<platform::ResultSet> CheckItemInGroups(ProcedureContext& context, const platform::ParameterList& parameters) {
+std::vector<platform::ResultSet> CheckItemInGroups(ProcedureContext& context,
+                                                   const platform::ParameterList& parameters) {
     const ProcedureArguments args("sp_CheckItemExists_QAX", parameters, {"@GroupID", "@ItemCode"});
     args.ExpectAtMost(2);
     const std::string groups = args.TextOr(0, "");
@@ -36,7 +37,8 @@ std::vector<platform::ResultSet> CheckItemInGroups(ProcedureContext& context, co
 }
 
 // (DS type, item): the item is an active item of the type's mapped categories.
-std::vector<platform::ResultSet> CheckItemInDSType(ProcedureContext& context, const platform::ParameterList& parameters) {
+std::vector<platform::ResultSet> CheckItemInDSType(ProcedureContext& context,
+                                                   const platform::ParameterList& parameters) {
     const ProcedureArguments args("sp_CheckItemExists_DSType", parameters, {"@DSTypeID", "@ItemCode"});
     args.ExpectAtMost(2);
     const long long dsType = args.IntOr(0, 0);

@@ -11,9 +11,9 @@ TableFunctionArguments::TableFunctionArguments(std::string function, const std::
                                                std::size_t declared)
     : function_(std::move(function)), arguments_(arguments) {
     if (arguments.size() < declared)
-        throw platform::RuntimeError(platform::err::DatabaseError,
-                                     "An insufficient number of arguments were supplied for the procedure or function dbo." +
-                                         function_ + ".");
+        throw platform::RuntimeError(
+            platform::err::DatabaseError,
+            "An insufficient number of arguments were supplied for the procedure or function dbo." + function_ + ".");
     if (arguments.size() > declared)
         throw platform::RuntimeError(platform::err::DatabaseError,
                                      "Procedure or function dbo." + function_ + " has too many arguments.");

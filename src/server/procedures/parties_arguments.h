@@ -15,8 +15,8 @@ public:
     // The server refuses a call with fewer or more arguments than declared.
     TableFunctionArguments(std::string function, const std::vector<platform::Value>& arguments, std::size_t declared);
 
-    long long Int(std::size_t index) const;          // Null reads 0
-    std::string Text(std::size_t index) const;       // Null reads ''
+    long long Int(std::size_t index) const;     // Null reads 0
+    std::string Text(std::size_t index) const;  // Null reads ''
 
 private:
     std::string function_;

@@ -34,7 +34,8 @@ WHERE s.SalesmanID = ?)SQL",
 }  // namespace
 
 // (group ID list): the name of each group of the list, once, in the list's order.
-std::vector<platform::ResultSet> CategoryGroupNames(ProcedureContext& context, const platform::ParameterList& parameters) {
+std::vector<platform::ResultSet> CategoryGroupNames(ProcedureContext& context,
+                                                    const platform::ParameterList& parameters) {
     const ProcedureArguments args("Zuro_sp_Get_CGNames", parameters, {"@GroupIDs"});
     args.ExpectAtMost(1);
     platform::ResultSet names;
@@ -63,7 +64,8 @@ std::vector<platform::ResultSet> CheckForAllCatGrpMapped(ProcedureContext& conte
 
 // (salesman): the DS type of the salesman when that type is mapped to categories,
 // else 0.
-std::vector<platform::ResultSet> CatMappedDSTypeID(ProcedureContext& context, const platform::ParameterList& parameters) {
+std::vector<platform::ResultSet> CatMappedDSTypeID(ProcedureContext& context,
+                                                   const platform::ParameterList& parameters) {
     const ProcedureArguments args("sp_get_CatMappedDSTypeID", parameters, {"@SalesmanID"});
     args.ExpectAtMost(1);
     return {context.Query(R"SQL(
@@ -86,10 +88,11 @@ std::vector<platform::ResultSet> CheckGroupExistsForSalesman(ProcedureContext& c
         if (id == 0) {
             allMapped = MappedGroupCount(context, salesman) >= ActiveGroupCount(context);
         } else {
-            allMapped = !context.Scalar(R"SQL(
+            allMapped = !context
+                             .Scalar(R"SQL(
 SELECT 1 FROM Salesman s JOIN DSTypeCategoryGroup m ON m.DSTypeID = s.DSTypeID
 WHERE s.SalesmanID = ? AND m.GroupID = ?)SQL",
-                                        {salesman, id})
+                                     {salesman, id})
                              .IsNull();
         }
         if (!allMapped) break;

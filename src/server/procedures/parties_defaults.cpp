@@ -26,7 +26,8 @@ LIMIT 1)SQL",
 }
 
 // (SO number): the confirmation's salesman; no row when it names none.
-std::vector<platform::ResultSet> ConfirmationSalesman(ProcedureContext& context, const platform::ParameterList& parameters) {
+std::vector<platform::ResultSet> ConfirmationSalesman(ProcedureContext& context,
+                                                      const platform::ParameterList& parameters) {
     const ProcedureArguments args("Sp_Get_BeatSalesMan_Cust_QAX", parameters, {"@SONumber"});
     args.ExpectAtMost(1);
     return {context.Query("SELECT SalesmanID FROM SOAbstract WHERE SONumber = ? AND IFNULL(SalesmanID, 0) <> 0",
@@ -35,7 +36,8 @@ std::vector<platform::ResultSet> ConfirmationSalesman(ProcedureContext& context,
 
 // (beat, 1): 1 for an active beat, 0 for a deactivated one; no row for a beat that
 // does not exist.
-std::vector<platform::ResultSet> ValidateActiveBeat(ProcedureContext& context, const platform::ParameterList& parameters) {
+std::vector<platform::ResultSet> ValidateActiveBeat(ProcedureContext& context,
+                                                    const platform::ParameterList& parameters) {
     const ProcedureArguments args("sp_Validate_ActiveBeat", parameters, {"@BeatID", "@Flag"});
     args.ExpectAtMost(2);
     return {context.Query("SELECT CASE WHEN Active = 1 THEN 1 ELSE 0 END AS Active FROM Beat WHERE BeatID = ?",

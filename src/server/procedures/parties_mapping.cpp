@@ -11,7 +11,8 @@ namespace server::parties {
 // (salesman, beat, customer name): 0 and '' leave that party unrestricted. A salesman
 // without beats, or a beat without customers, still gives its row, with the columns
 // of what it lacks Null.
-platform::ResultSet MappedSalesmanBeatAndCustomer(ProcedureContext& context, const std::vector<platform::Value>& arguments) {
+platform::ResultSet MappedSalesmanBeatAndCustomer(ProcedureContext& context,
+                                                  const std::vector<platform::Value>& arguments) {
     const TableFunctionArguments args("Fn_Get_MappedSalemanBeatAndCustomer_QAX", arguments, 3);
     return context.Query(R"SQL(
 SELECT s.SalesmanID, s.Salesman_Name, sb.BeatID, sb.BeatName, bc.CustomerID, bc.Company_Name, bc.Address
@@ -56,7 +57,8 @@ platform::ResultSet ItemsOfGroups(ProcedureContext& context, const std::vector<p
 SELECT DISTINCT i.Product_Code, i.ProductName
 FROM Items i
 JOIN ProductCategoryGroupDetail d ON d.CategoryID = i.CategoryID
-WHERE i.Active = 1 AND d.GroupID IN ()SQL" + placeholders + R"SQL()
+WHERE i.Active = 1 AND d.GroupID IN ()SQL" +
+                             placeholders + R"SQL()
 ORDER BY i.ProductName)SQL",
                          groups);
 }

@@ -18,18 +18,26 @@ void RegisterPartyProcedures(ProcedureRegistry& registry);
 namespace parties {
 
 // Table functions.
-platform::ResultSet MappedSalesmanBeatAndCustomer(ProcedureContext& context, const std::vector<platform::Value>& arguments);
+platform::ResultSet MappedSalesmanBeatAndCustomer(ProcedureContext& context,
+                                                  const std::vector<platform::Value>& arguments);
 platform::ResultSet ListCategoryGroup(ProcedureContext& context, const std::vector<platform::Value>& arguments);
 platform::ResultSet ItemsOfGroups(ProcedureContext& context, const std::vector<platform::Value>& arguments);
 
 // Procedures.
-std::vector<platform::ResultSet> CustomerDefaultBeatSalesman(ProcedureContext& context, const platform::ParameterList& parameters);
-std::vector<platform::ResultSet> ConfirmationSalesman(ProcedureContext& context, const platform::ParameterList& parameters);
-std::vector<platform::ResultSet> ValidateActiveBeat(ProcedureContext& context, const platform::ParameterList& parameters);
-std::vector<platform::ResultSet> CategoryGroupNames(ProcedureContext& context, const platform::ParameterList& parameters);
-std::vector<platform::ResultSet> CheckForAllCatGrpMapped(ProcedureContext& context, const platform::ParameterList& parameters);
-std::vector<platform::ResultSet> CatMappedDSTypeID(ProcedureContext& context, const platform::ParameterList& parameters);
-std::vector<platform::ResultSet> CheckGroupExistsForSalesman(ProcedureContext& context, const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> CustomerDefaultBeatSalesman(ProcedureContext& context,
+                                                             const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> ConfirmationSalesman(ProcedureContext& context,
+                                                      const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> ValidateActiveBeat(ProcedureContext& context,
+                                                    const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> CategoryGroupNames(ProcedureContext& context,
+                                                    const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> CheckForAllCatGrpMapped(ProcedureContext& context,
+                                                         const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> CatMappedDSTypeID(ProcedureContext& context,
+                                                   const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> CheckGroupExistsForSalesman(ProcedureContext& context,
+                                                             const platform::ParameterList& parameters);
 
 // The whole numbers of a comma list of group IDs, in the order given; blanks and
 // entries that are not numbers are passed over.

@@ -11,13 +11,15 @@ namespace server::print {
 namespace {
 
 // Goods given away are worth nothing on the note, whatever price the line carried.
-constexpr const char* kLineValue = "CASE WHEN d.FreeItem = 1 OR d.Free = 1 OR d.OtherCG_Item = 1 THEN 0.0 "
-                                   "ELSE d.UOMQty * d.UOMPrice END";
+constexpr const char* kLineValue =
+    "CASE WHEN d.FreeItem = 1 OR d.Free = 1 OR d.OtherCG_Item = 1 THEN 0.0 "
+    "ELSE d.UOMQty * d.UOMPrice END";
 
 }  // namespace
 
 // (DispatchID): one row, the heading of the note and its total value.
-std::vector<platform::ResultSet> DispatchAbstract(ProcedureContext& context, const platform::ParameterList& parameters) {
+std::vector<platform::ResultSet> DispatchAbstract(ProcedureContext& context,
+                                                  const platform::ParameterList& parameters) {
     const ProcedureArguments args("sp_print_DispatchAbstract", parameters, {"@DispatchID"});
     args.ExpectAtMost(1);
     return {context.Query(std::string(R"SQL(
@@ -34,7 +36,8 @@ SELECT IFNULL((SELECT Prefix FROM VoucherPrefix WHERE TranID = 'DISPATCH'), '') 
        a.Memo1 AS "Memo 1",
        a.Memo2 AS "Memo 2",
        a.Memo3 AS "Memo 3",
-       (SELECT IFNULL(SUM()SQL") + kLineValue + R"SQL(), 0.0) FROM DispatchDetail d WHERE d.DispatchID = a.DispatchID)
+       (SELECT IFNULL(SUM()SQL") +
+                              kLineValue + R"SQL(), 0.0) FROM DispatchDetail d WHERE d.DispatchID = a.DispatchID)
            AS "Total Value"
 FROM DispatchAbstract a
 JOIN Customer c ON c.CustomerID = a.CustomerID

@@ -21,9 +21,9 @@ constexpr const char* kAllGroups = "-1";
 
 // Parameters of the new note; the amendment has the old document number second
 // and the rest one place further on.
-const std::vector<std::string> kNewNames = {"@RefNumber", "@DispatchDate", "@CustomerID", "@BillingAddress",
-                                            "@ShippingAddress", "@Status", "@NewRefNumber", "@Memo1", "@Memo2",
-                                            "@Memo3", "@DocReference", "@SalesmanID", "@BeatID", "@GroupID"};
+const std::vector<std::string> kNewNames = {
+    "@RefNumber", "@DispatchDate", "@CustomerID", "@BillingAddress", "@ShippingAddress", "@Status", "@NewRefNumber",
+    "@Memo1",     "@Memo2",        "@Memo3",      "@DocReference",   "@SalesmanID",      "@BeatID", "@GroupID"};
 
 std::vector<std::string> AmendNames() {
     std::vector<std::string> names = kNewNames;
@@ -37,7 +37,8 @@ long long TakeNextDocumentNumber(ProcedureContext& context) {
     return context.Scalar("SELECT LastNumber FROM DocumentNumbers WHERE DocType = ?", {kDispatchSerial}).AsInteger();
 }
 
-std::vector<platform::ResultSet> StoreAbstract(ProcedureContext& context, const ProcedureArguments& args, bool amendment) {
+std::vector<platform::ResultSet> StoreAbstract(ProcedureContext& context, const ProcedureArguments& args,
+                                               bool amendment) {
     const std::size_t shift = amendment ? 1 : 0;
     args.ExpectAtMost(kNewNames.size() + shift);
     RequireSupplied(args, kNewNames.size() - 1 + shift);  // all but the group
@@ -59,14 +60,14 @@ INSERT INTO DispatchAbstract (DocumentID, DispatchDate, CustomerID, BillingAddre
                               RefNumber, NewRefNumber, OriginalReference, Memo1, Memo2, Memo3, DocReference,
                               SalesmanID, BeatID, GroupID, UserName, CreationTime)
 VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, '', datetime('now', 'localtime')))SQL",
-                {documentID, date, customer, args.TextOr(at(3), ""), args.TextOr(at(4), ""), status,
-                 args.TextOr(0, ""), args.TextOr(at(6), ""), amendment ? args.TextOr(1, "") : std::string(),
-                 args.TextOr(at(7), ""), args.TextOr(at(8), ""), args.TextOr(at(9), ""), args.TextOr(at(10), ""),
-                 args.IntOr(at(11), 0), args.IntOr(at(12), 0), group});
+                {documentID, date, customer, args.TextOr(at(3), ""), args.TextOr(at(4), ""), status, args.TextOr(0, ""),
+                 args.TextOr(at(6), ""), amendment ? args.TextOr(1, "") : std::string(), args.TextOr(at(7), ""),
+                 args.TextOr(at(8), ""), args.TextOr(at(9), ""), args.TextOr(at(10), ""), args.IntOr(at(11), 0),
+                 args.IntOr(at(12), 0), group});
     const long long dispatchID = context.LastInsertId();
     savepoint.Keep();
-    return context.WithRowCount(context.Query(
-        "SELECT DispatchID, DocumentID FROM DispatchAbstract WHERE DispatchID = ?", {dispatchID}));
+    return context.WithRowCount(
+        context.Query("SELECT DispatchID, DocumentID FROM DispatchAbstract WHERE DispatchID = ?", {dispatchID}));
 }
 
 }  // namespace
@@ -82,7 +83,8 @@ std::vector<platform::ResultSet> SaveAbstract(ProcedureContext& context, const p
 
 // The same, with the document number of the amended note second; the replacement
 // keeps it as its OriginalReference.
-std::vector<platform::ResultSet> SaveAmendedAbstract(ProcedureContext& context, const platform::ParameterList& parameters) {
+std::vector<platform::ResultSet> SaveAmendedAbstract(ProcedureContext& context,
+                                                     const platform::ParameterList& parameters) {
     const ProcedureArguments args("sp_Save_DispatchAbstract_Amend", parameters, AmendNames());
     return StoreAbstract(context, args, true);
 }

@@ -15,7 +15,8 @@ void RequireSupplied(const ProcedureArguments& args, std::size_t count) {
 }
 
 long long RequireDispatch(ProcedureContext& context, long long dispatchID) {
-    const platform::Value status = context.Scalar("SELECT Status FROM DispatchAbstract WHERE DispatchID = ?", {dispatchID});
+    const platform::Value status =
+        context.Scalar("SELECT Status FROM DispatchAbstract WHERE DispatchID = ?", {dispatchID});
     if (status.IsNull()) Refuse("Dispatch " + std::to_string(dispatchID) + " does not exist.");
     return status.AsInteger();
 }

@@ -12,7 +12,7 @@
 namespace server {
 class ProcedureContext;
 class ProcedureArguments;
-}
+}  // namespace server
 
 namespace server::save {
 

@@ -38,7 +38,8 @@ CreditTerms TermsFor(ProcedureContext& context, const std::string& customer, con
         }
     }
     CreditTerms own;
-    own.creditLimit = platform::ToNumber(context.Scalar("SELECT CreditLimit FROM Customer WHERE CustomerID = ?", {customer}));
+    own.creditLimit =
+        platform::ToNumber(context.Scalar("SELECT CreditLimit FROM Customer WHERE CustomerID = ?", {customer}));
     return own;
 }
 
@@ -64,10 +65,11 @@ long long OpenBills(ProcedureContext& context, const std::string& customer) {
 // a bill of his is overdue by more than the days allowed, or his open bills reach the
 // number allowed; else 0. The server judges by its own terms: the limit the screen
 // sends, the dispatch value, the salesman and the beat do not change the answer.
-std::vector<platform::ResultSet> CheckCreditLimitExceeds(ProcedureContext& context, const platform::ParameterList& parameters) {
-    const ProcedureArguments args("sp_CheckCreditLimitExceeds_QAX", parameters,
-                                  {"@Kind", "@SalesmanID", "@BeatID", "@CustomerID", "@GroupID", "@DispatchValue",
-                                   "@Exposure", "@CreditLimit"});
+std::vector<platform::ResultSet> CheckCreditLimitExceeds(ProcedureContext& context,
+                                                         const platform::ParameterList& parameters) {
+    const ProcedureArguments args(
+        "sp_CheckCreditLimitExceeds_QAX", parameters,
+        {"@Kind", "@SalesmanID", "@BeatID", "@CustomerID", "@GroupID", "@DispatchValue", "@Exposure", "@CreditLimit"});
     args.ExpectAtMost(8);
     RequireSupplied(args, 8);
     const std::string customer = platform::Trim(args.TextOr(3, ""));
@@ -76,7 +78,8 @@ std::vector<platform::ResultSet> CheckCreditLimitExceeds(ProcedureContext& conte
 
     const CreditTerms terms = TermsFor(context, customer, args.TextOr(4, ""));
     const bool overLimit = terms.creditLimit != kNoLimit && exposure > terms.creditLimit;
-    const bool overdue = terms.overdueDaysAllowed >= 0 && HasBillOverdueBeyond(context, customer, terms.overdueDaysAllowed);
+    const bool overdue =
+        terms.overdueDaysAllowed >= 0 && HasBillOverdueBeyond(context, customer, terms.overdueDaysAllowed);
     const bool tooManyBills = terms.maxOpenBills >= 0 && OpenBills(context, customer) >= terms.maxOpenBills;
 
     platform::ResultSet answer;

@@ -58,13 +58,34 @@ INSERT INTO DispatchDetail (DispatchID, Serial, Product_Code, Batch_Code, Batch_
                             SPLCATSERIAL, MultipleSchemeID, MultipleSchemeDetails, MultipleSplCategorySchemeID,
                             MultipleSplCategorySchDetail, CustomerCategory, DatedPosting)
 VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?))SQL",
-                {line.dispatchID, line.serial, line.item, part.batchCode, part.batchNumber,
-                 givenAway ? 0.0 : line.originalPrice, part.quantity, line.unit, part.unitQuantity,
-                 givenAway ? 0.0 : line.unitPrice, line.batchTrack, tracked ? 1 : 0, line.customerPrice ? 1 : 0,
-                 line.freeItem, line.freeRow, line.otherGroupItem, line.schemeID, line.freeSerial, line.schemeIDs,
-                 line.splCatSchemeIDs, line.splCatScheme, line.splCatSerial, line.multipleSchemeIDs,
-                 line.multipleSchemeDetails, line.multipleSplCatSchemeIDs, line.multipleSplCatSchemeDetails,
-                 line.customerCategory, line.datedPosting});
+                {line.dispatchID,
+                 line.serial,
+                 line.item,
+                 part.batchCode,
+                 part.batchNumber,
+                 givenAway ? 0.0 : line.originalPrice,
+                 part.quantity,
+                 line.unit,
+                 part.unitQuantity,
+                 givenAway ? 0.0 : line.unitPrice,
+                 line.batchTrack,
+                 tracked ? 1 : 0,
+                 line.customerPrice ? 1 : 0,
+                 line.freeItem,
+                 line.freeRow,
+                 line.otherGroupItem,
+                 line.schemeID,
+                 line.freeSerial,
+                 line.schemeIDs,
+                 line.splCatSchemeIDs,
+                 line.splCatScheme,
+                 line.splCatSerial,
+                 line.multipleSchemeIDs,
+                 line.multipleSchemeDetails,
+                 line.multipleSplCatSchemeIDs,
+                 line.multipleSplCatSchemeDetails,
+                 line.customerCategory,
+                 line.datedPosting});
 }
 
 // The unit quantity shared by the batches' parts; the last part takes what is left,
@@ -88,7 +109,8 @@ bool DatedBack(ProcedureContext& context, const DetailLine& line) {
            platform::ToNumber(context.Scalar("SELECT date(?) < date('now', 'localtime')", {line.dispatchDay})) != 0;
 }
 
-std::vector<platform::ResultSet> StoreLine(ProcedureContext& context, const ProcedureArguments& args, bool customerPrice) {
+std::vector<platform::ResultSet> StoreLine(ProcedureContext& context, const ProcedureArguments& args,
+                                           bool customerPrice) {
     DetailLine line = ReadDetailLine(args, customerPrice);
     line.item = platform::Trim(line.item);
     line.batchNumber = platform::Trim(line.batchNumber);
@@ -125,7 +147,8 @@ std::vector<platform::ResultSet> StoreLine(ProcedureContext& context, const Proc
 // ids, special category scheme ids, special category flag, special category serials,
 // scheme ids again, scheme details, special category scheme ids again, special
 // category scheme details]): one row, 1 stored, 0 not enough stock.
-std::vector<platform::ResultSet> SaveDetailAtItemPrice(ProcedureContext& context, const platform::ParameterList& parameters) {
+std::vector<platform::ResultSet> SaveDetailAtItemPrice(ProcedureContext& context,
+                                                       const platform::ParameterList& parameters) {
     const ProcedureArguments args("sp_Save_dispatchdetail_UOM_QAX", parameters, DetailParameterNames(false));
     return StoreLine(context, args, false);
 }

@@ -19,21 +19,21 @@ namespace server::save {
 struct DetailLine {
     long long dispatchID = 0;
     std::string item;
-    std::string batchNumber;       // '' lets the server choose the batches
-    double originalPrice = 0;      // per base unit
+    std::string batchNumber;   // '' lets the server choose the batches
+    double originalPrice = 0;  // per base unit
     double baseQuantity = 0;
     long long batchTrack = 0;
     long long trackInventory = 0;  // as the screen knows the item
     bool customerPrice = false;    // the price came from the batch, by the customer's category
     long long customerCategory = 0;
-    long long freeItem = 0;        // a line a scheme gave free
-    long long freeRow = 0;         // the line's goods are free stock
-    platform::Value dispatchDay;   // 'YYYY-MM-DD HH:MM:SS'
+    long long freeItem = 0;       // a line a scheme gave free
+    long long freeRow = 0;        // the line's goods are free stock
+    platform::Value dispatchDay;  // 'YYYY-MM-DD HH:MM:SS'
     long long datedPosting = 0;
     long long unit = 0;
     double unitQuantity = 0;
     double unitPrice = 0;
-    long long serial = 0;          // the grid row the line stands on
+    long long serial = 0;  // the grid row the line stands on
     long long otherGroupItem = 0;
     long long schemeID = 0;
     std::string freeSerial;

@@ -17,18 +17,24 @@ void RegisterSaveProcedures(ProcedureRegistry& registry);
 
 namespace save {
 
-std::vector<platform::ResultSet> CheckCreditLimitExceeds(ProcedureContext& context, const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> CheckCreditLimitExceeds(ProcedureContext& context,
+                                                         const platform::ParameterList& parameters);
 
 std::vector<platform::ResultSet> SaveAbstract(ProcedureContext& context, const platform::ParameterList& parameters);
-std::vector<platform::ResultSet> SaveAmendedAbstract(ProcedureContext& context, const platform::ParameterList& parameters);
-std::vector<platform::ResultSet> UpdateTransactionSerial(ProcedureContext& context, const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> SaveAmendedAbstract(ProcedureContext& context,
+                                                     const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> UpdateTransactionSerial(ProcedureContext& context,
+                                                         const platform::ParameterList& parameters);
 
-std::vector<platform::ResultSet> SaveDetailAtItemPrice(ProcedureContext& context, const platform::ParameterList& parameters);
-std::vector<platform::ResultSet> SaveDetailAtCustomerPrice(ProcedureContext& context, const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> SaveDetailAtItemPrice(ProcedureContext& context,
+                                                       const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> SaveDetailAtCustomerPrice(ProcedureContext& context,
+                                                           const platform::ParameterList& parameters);
 
 std::vector<platform::ResultSet> UpdateSOPending(ProcedureContext& context, const platform::ParameterList& parameters);
 std::vector<platform::ResultSet> CloseSO(ProcedureContext& context, const platform::ParameterList& parameters);
-std::vector<platform::ResultSet> UpdateSORefNumber(ProcedureContext& context, const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> UpdateSORefNumber(ProcedureContext& context,
+                                                   const platform::ParameterList& parameters);
 
 }  // namespace save
 }  // namespace server

@@ -60,11 +60,11 @@ std::vector<platform::ResultSet> UpdateSOPending(ProcedureContext& context, cons
 
     const std::size_t confirmations = bind.size();
     bind.push_back(item);
-    const platform::ResultSet lines = context.Query(
-        "SELECT SOLineID, Pending FROM SODetail WHERE SONumber IN (" + Placeholders(confirmations) +
-            ") AND Product_Code = ? AND Pending > 0 AND " + (free ? "SalePrice = 0" : "SalePrice <> 0") +
-            " ORDER BY SOLineID",
-        bind);
+    const platform::ResultSet lines =
+        context.Query("SELECT SOLineID, Pending FROM SODetail WHERE SONumber IN (" + Placeholders(confirmations) +
+                          ") AND Product_Code = ? AND Pending > 0 AND " + (free ? "SalePrice = 0" : "SalePrice <> 0") +
+                          " ORDER BY SOLineID",
+                      bind);
 
     ProcedureSavepoint savepoint(context, "update_so_pending");
     double left = quantity;
@@ -94,7 +94,8 @@ std::vector<platform::ResultSet> CloseSO(ProcedureContext& context, const platfo
 }
 
 // (SONumber, DocumentID): the confirmation points at the dispatch made from it.
-std::vector<platform::ResultSet> UpdateSORefNumber(ProcedureContext& context, const platform::ParameterList& parameters) {
+std::vector<platform::ResultSet> UpdateSORefNumber(ProcedureContext& context,
+                                                   const platform::ParameterList& parameters) {
     const ProcedureArguments args("sp_update_soRefNumber", parameters, {"@SONumber", "@DispatchDocID"});
     args.ExpectAtMost(2);
     RequireSupplied(args, 2);

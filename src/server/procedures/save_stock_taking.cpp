@@ -35,16 +35,16 @@ ORDER BY b.Free = ?5 DESC,
 bool TracksInventory(ProcedureContext& context, const std::string& item, long long sentFlag) {
     if (sentFlag == 0) return false;
     const platform::Value category = context.Scalar(
-        "SELECT c.Track_Inventory FROM Items i JOIN ItemCategories c ON c.CategoryID = i.CategoryID WHERE i.Product_Code = ?",
+        "SELECT c.Track_Inventory FROM Items i JOIN ItemCategories c ON c.CategoryID = i.CategoryID WHERE "
+        "i.Product_Code = ?",
         {item});
     return !category.IsNull() && platform::ToNumber(category) != 0;
 }
 
 std::vector<BatchTake> PlanTakes(ProcedureContext& context, const StockRequest& request) {
-    const platform::ResultSet batches =
-        context.Query(kCandidates, {request.item, request.batchNumber, request.dispatchDay,
-                                    request.mayTakeFreeStock ? 1 : 0, request.showedFreeStock ? 1 : 0,
-                                    request.priceCategory, request.shownPrice});
+    const platform::ResultSet batches = context.Query(
+        kCandidates, {request.item, request.batchNumber, request.dispatchDay, request.mayTakeFreeStock ? 1 : 0,
+                      request.showedFreeStock ? 1 : 0, request.priceCategory, request.shownPrice});
     std::vector<BatchTake> takes;
     double left = request.quantity;
     for (const auto& row : batches.rows) {

@@ -16,13 +16,13 @@ namespace server::save {
 
 struct StockRequest {
     std::string item;
-    std::string batchNumber;       // '' any batch of the item
-    double quantity = 0;           // base units
-    platform::Value dispatchDay;   // a batch must not have expired by then
-    bool mayTakeFreeStock = false; // the goods are given away
-    bool showedFreeStock = false;  // the line stood on a free batch
-    long long priceCategory = 0;   // 1 PTS, 2 PTR, 3 company price; 0 no price to match
-    double shownPrice = 0;         // per base unit, the price the batch was shown at
+    std::string batchNumber;        // '' any batch of the item
+    double quantity = 0;            // base units
+    platform::Value dispatchDay;    // a batch must not have expired by then
+    bool mayTakeFreeStock = false;  // the goods are given away
+    bool showedFreeStock = false;   // the line stood on a free batch
+    long long priceCategory = 0;    // 1 PTS, 2 PTR, 3 company price; 0 no price to match
+    double shownPrice = 0;          // per base unit, the price the batch was shown at
 };
 
 struct BatchTake {

@@ -18,9 +18,11 @@ namespace server::save {
 // reference and the type on the note and moves the type's count; one row, the number
 // the user is told: the dispatch voucher prefix and the note's document number
 // ("DN50"). A note left without a reference is known by that number.
-std::vector<platform::ResultSet> UpdateTransactionSerial(ProcedureContext& context, const platform::ParameterList& parameters) {
-    const ProcedureArguments args("sp_Update_TransactionSerial", parameters,
-                                  {"@TransactionType", "@DocumentType", "@DispatchID", "@DocReference", "@SameReference"});
+std::vector<platform::ResultSet> UpdateTransactionSerial(ProcedureContext& context,
+                                                         const platform::ParameterList& parameters) {
+    const ProcedureArguments args(
+        "sp_Update_TransactionSerial", parameters,
+        {"@TransactionType", "@DocumentType", "@DispatchID", "@DocReference", "@SameReference"});
     args.ExpectAtMost(5);
     RequireSupplied(args, 5);
     const long long transactionType = RequiredInt(args.Int(0), "transaction type");
@@ -42,15 +44,17 @@ std::vector<platform::ResultSet> UpdateTransactionSerial(ProcedureContext& conte
             "AND substr(?2, length(Prefix) + 1) NOT GLOB '*[^0-9]*' ORDER BY length(Prefix) DESC LIMIT 1",
             {transactionType, reference});
         if (!owner.IsNull()) {
-            context.Run("UPDATE TransactionDocNumber SET LastCount = MAX(LastCount, CAST(substr(?1, length(Prefix) + 1) "
-                        "AS INTEGER)) WHERE TransactionType = ?2 AND DocumentType = ?3",
-                        {reference, transactionType, owner});
+            context.Run(
+                "UPDATE TransactionDocNumber SET LastCount = MAX(LastCount, CAST(substr(?1, length(Prefix) + 1) "
+                "AS INTEGER)) WHERE TransactionType = ?2 AND DocumentType = ?3",
+                {reference, transactionType, owner});
             context.Run("UPDATE DispatchAbstract SET DocumentType = ? WHERE DispatchID = ?", {owner, dispatchID});
         }
     }
     if (!documentType.empty() &&
-        context.Run("UPDATE TransactionDocNumber SET LastCount = LastCount + 1 WHERE TransactionType = ? AND DocumentType = ?",
-                    {transactionType, documentType}) != 1)
+        context.Run(
+            "UPDATE TransactionDocNumber SET LastCount = LastCount + 1 WHERE TransactionType = ? AND DocumentType = ?",
+            {transactionType, documentType}) != 1)
         Refuse("Document type '" + documentType + "' of transaction type " + std::to_string(transactionType) +
                " does not exist.");
     context.Run("UPDATE DispatchAbstract SET DocReference = ? WHERE DispatchID = ?",

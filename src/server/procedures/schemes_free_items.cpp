@@ -7,7 +7,8 @@
 namespace server::schemes {
 
 // (scheme, slab): one row, one field.
-std::vector<platform::ResultSet> ListFreeSKUCount(ProcedureContext& context, const platform::ParameterList& parameters) {
+std::vector<platform::ResultSet> ListFreeSKUCount(ProcedureContext& context,
+                                                  const platform::ParameterList& parameters) {
     const ProcedureArguments args("Zuro_SP_ListFreeSKUCount", parameters, {"@SchemeID", "@SlabID"});
     args.ExpectAtMost(2);
     // A slab names its free items in SchemeFreeItems; the oldest slabs name one in

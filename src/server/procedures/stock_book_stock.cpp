@@ -10,8 +10,7 @@ namespace server::stock {
 namespace {
 // A batch is live while it holds goods and has not expired; a batch without an
 // expiry never does.
-constexpr const char* kLiveBatch =
-    "b.Quantity > 0 AND (b.Expiry IS NULL OR b.Expiry >= date('now', 'localtime'))";
+constexpr const char* kLiveBatch = "b.Quantity > 0 AND (b.Expiry IS NULL OR b.Expiry >= date('now', 'localtime'))";
 }  // namespace
 
 // (item, track batches, price option, customer category, virtual batches): one row
@@ -22,8 +21,9 @@ constexpr const char* kLiveBatch =
 // carries none. An item without batches shows one row for its saleable stock and
 // one for its free stock.
 std::vector<platform::ResultSet> BookStock(ProcedureContext& context, const platform::ParameterList& parameters) {
-    const ProcedureArguments args("sp_get_bookstock", parameters,
-                                  {"@ItemCode", "@TrackBatches", "@PriceOption", "@CustomerCategory", "@VirtualBatches"});
+    const ProcedureArguments args(
+        "sp_get_bookstock", parameters,
+        {"@ItemCode", "@TrackBatches", "@PriceOption", "@CustomerCategory", "@VirtualBatches"});
     args.ExpectAtMost(5);
     const std::string sql = std::string(R"SQL(
 SELECT CASE WHEN ?2 = 1 THEN b.Batch_Number ELSE '' END AS Batch_Number,
@@ -44,7 +44,8 @@ SELECT CASE WHEN ?2 = 1 THEN b.Batch_Number ELSE '' END AS Batch_Number,
        MAX(b.PartofPercentage) AS PartofPercentage
 FROM Batch_Products b
 JOIN Items i ON i.Product_Code = b.Product_Code
-WHERE b.Product_Code = ?1 AND )SQL") + kLiveBatch + R"SQL(
+WHERE b.Product_Code = ?1 AND )SQL") +
+                            kLiveBatch + R"SQL(
 GROUP BY 1, IFNULL(b.Free, 0), 4
 ORDER BY MIN(b.Expiry) IS NULL, MIN(b.Expiry), MIN(b.CreationDate), IFNULL(b.Free, 0), MIN(b.Batch_Code))SQL";
     return {context.Query(sql, {args.Text(0), args.Int(1, 0), args.Int(2, 0), args.Int(3, 0)})};

@@ -42,13 +42,17 @@ protected:
 };
 
 TEST_F(GlobalTest, TheNextReferenceIsThePrefixAndTheCountAfterTheLast) {
-    const std::vector<std::pair<std::string, std::string>> next = {
-        {"DN-A", "DA42"}, {"dn-a", "DA42"}, {"OLD", "OL4"}, {"Quo'te", "Q1"}, {"OTHER", ""}, {"NONE", ""}};
+    const std::vector<std::pair<std::string, std::string>> next = {{"DN-A", "DA42"}, {"dn-a", "DA42"}, {"OLD", "OL4"},
+                                                                   {"Quo'te", "Q1"}, {"OTHER", ""},    {"NONE", ""}};
     for (const auto& [type, reference] : next) EXPECT_EQ(global().GetNextDocumentReference(type, 5), reference) << type;
 }
 
 TEST_F(GlobalTest, ReferencesSplitIntoLeadAndNumber) {
-    struct Case { const char* reference; long number; int prefix; };
+    struct Case {
+        const char* reference;
+        long number;
+        int prefix;
+    };
     for (const Case& c : std::vector<Case>{{"DN1234", 1234, 2}, {"1234", 1234, 0}, {"DN/12X3", 12, 3}, {"DN", 0, 2}}) {
         EXPECT_EQ(global().ParseDocumentNumber(c.reference), c.number) << c.reference;
         EXPECT_EQ(global().GetDocumentPrefixLength(c.reference), c.prefix) << c.reference;
@@ -66,8 +70,8 @@ TEST_F(GlobalTest, LookupsEscapeTheirValues) {
     EXPECT_EQ(global().LookupCode("Customer", "CustomerID", "Company_Name", "x' Or '1' = '1"), "");
     EXPECT_EQ(global().LookupName("Customer", "CustomerID", "Company_Name", "C9"), "");
     EXPECT_TRUE(global().LookupValue(*connection, "Select Company_Name From Customer Where 1 = 0").IsNull());
-    for (const auto& [reference, found] : std::vector<std::pair<std::string, long>>{
-             {"SC12", 12}, {"12", 12}, {"SC99", 0}, {"SC", 0}})
+    for (const auto& [reference, found] :
+         std::vector<std::pair<std::string, long>>{{"SC12", 12}, {"12", 12}, {"SC99", 0}, {"SC", 0}})
         EXPECT_EQ(global().LookupFieldByKey("SOAbstract", "SONumber", reference), found) << reference;
 }
 
@@ -111,16 +115,36 @@ TEST_F(GlobalTest, TheWorkingDateIsTheSessionsAndTransactionsGoByItsDay) {
 }
 
 TEST_F(GlobalTest, UnitRatesFollowTheLadderOfEachItem) {
-    struct Case { const char* item; long uom; double rate; };
-    for (const Case& c : std::vector<Case>{{"ONE", 1, 1},   {"ONE", 2, 0},      {"TWO", 1, 1},    {"TWO", 2, 12},
-                                           {"TWO", 3, 0},   {"THREE", 3, 144},  {"three", 2, 12}, {"THREE", 0, 1},
-                                           {"NOSUCH", 1, 0}, {"", 1, 0},        {"KID'S", 1, 1}})
+    struct Case {
+        const char* item;
+        long uom;
+        double rate;
+    };
+    for (const Case& c : std::vector<Case>{{"ONE", 1, 1},
+                                           {"ONE", 2, 0},
+                                           {"TWO", 1, 1},
+                                           {"TWO", 2, 12},
+                                           {"TWO", 3, 0},
+                                           {"THREE", 3, 144},
+                                           {"three", 2, 12},
+                                           {"THREE", 0, 1},
+                                           {"NOSUCH", 1, 0},
+                                           {"", 1, 0},
+                                           {"KID'S", 1, 1}})
         EXPECT_EQ(global().ConvertToBaseUOM(c.item, c.uom), c.rate) << c.item << " " << c.uom;
 
-    struct Level { const char* item; long level; double rate; long uom; };
-    for (const Level& c : std::vector<Level>{
-             {"THREE", 3, 144, 3}, {"THREE", 2, 12, 2}, {"THREE", 1, 1, 1}, {"TWO", 3, 0, 0}, {"TWO", 4, 0, 0},
-             {"NOSUCH", 1, 0, 0}}) {
+    struct Level {
+        const char* item;
+        long level;
+        double rate;
+        long uom;
+    };
+    for (const Level& c : std::vector<Level>{{"THREE", 3, 144, 3},
+                                             {"THREE", 2, 12, 2},
+                                             {"THREE", 1, 1, 1},
+                                             {"TWO", 3, 0, 0},
+                                             {"TWO", 4, 0, 0},
+                                             {"NOSUCH", 1, 0, 0}}) {
         long uom = -1;
         EXPECT_EQ(global().ConvertWithRate(c.item, c.level, uom), c.rate) << c.item << " " << c.level;
         EXPECT_EQ(uom, c.uom) << c.item << " " << c.level;
@@ -133,9 +157,17 @@ TEST_F(GlobalTest, QuantityExpressionsAlignToTheBaseUnitOnTheRight) {
     EXPECT_TRUE(global().ValidateUOMQuantity("THREE", "2*0*5", parts, base));
     EXPECT_EQ(parts, 3);
     EXPECT_EQ(base, 2 * 144 + 5);
-    struct Case { const char* item; const char* text; double base; };
-    for (const Case& c : std::vector<Case>{{"THREE", "3*4", 3 * 12 + 4}, {"TWO", "3*4", 40}, {"THREE", "7", 7},
-                                           {"ONE", "7", 7}, {"TWO", "1.5*0", 18}, {"THREE", " 1 * 0 * 0 ", 144},
+    struct Case {
+        const char* item;
+        const char* text;
+        double base;
+    };
+    for (const Case& c : std::vector<Case>{{"THREE", "3*4", 3 * 12 + 4},
+                                           {"TWO", "3*4", 40},
+                                           {"THREE", "7", 7},
+                                           {"ONE", "7", 7},
+                                           {"TWO", "1.5*0", 18},
+                                           {"THREE", " 1 * 0 * 0 ", 144},
                                            {"THREE", "0*0*0", 0}}) {
         EXPECT_TRUE(Valid(c.item, c.text, &base)) << c.item << " " << c.text;
         EXPECT_EQ(base, c.base) << c.item << " " << c.text;
@@ -148,8 +180,8 @@ TEST_F(GlobalTest, QuantityExpressionsAlignToTheBaseUnitOnTheRight) {
 }
 
 TEST_F(GlobalTest, EveryOtherQuantityTextIsRefusedWithoutAnError) {
-    for (const char* text : {"", "*", "2**5", "2*", "*5", "-1*2", "+1", "1*-0", "a*2", "2*b", "1e2", "2 3",
-                             "1.2.3", ".", "0x1", "1*2*3*4"})
+    for (const char* text : {"", "*", "2**5", "2*", "*5", "-1*2", "+1", "1*-0", "a*2", "2*b", "1e2", "2 3", "1.2.3",
+                             ".", "0x1", "1*2*3*4"})
         EXPECT_FALSE(Valid("THREE", text)) << '"' << text << '"';
     EXPECT_FALSE(Valid("ONE", "1*2")) << "more counts than the item has units";
     EXPECT_FALSE(Valid("TWO", "1*2*3"));
@@ -211,9 +243,13 @@ TEST_F(KeyboardTest, ListViewSelectionWalksWithTheKeys) {
     platform::ListView list(form, "lstAvailable");
     EXPECT_FALSE(global().MoveListSelection(list, kDown));
     for (const char* batch : {"B1", "B2", "B3"}) list.Add(batch);
-    struct Step { int key; bool moved; int selected; };
-    for (const Step& s : std::vector<Step>{{kDown, true, 1}, {kUp, false, 1}, {kEnd, true, 3}, {kDown, false, 3},
-                                           {kHome, true, 1}, {65, false, 1}}) {
+    struct Step {
+        int key;
+        bool moved;
+        int selected;
+    };
+    for (const Step& s : std::vector<Step>{
+             {kDown, true, 1}, {kUp, false, 1}, {kEnd, true, 3}, {kDown, false, 3}, {kHome, true, 1}, {65, false, 1}}) {
         EXPECT_EQ(global().MoveListSelection(list, s.key), s.moved) << s.key;
         EXPECT_EQ(list.SelectedIndex(), s.selected) << s.key;
     }

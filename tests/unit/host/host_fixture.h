@@ -40,7 +40,8 @@ protected:
     host::Settings settings;
     host::Transcript transcript;
     host::DialogAnswers answers;
-    std::unique_ptr<host::PlainHost> host = std::make_unique<host::PlainHost>(connection, settings, transcript, answers);
+    std::unique_ptr<host::PlainHost> host =
+        std::make_unique<host::PlainHost>(connection, settings, transcript, answers);
 };
 
 // A form of plain controls that keeps its own focus, as the screen's forms do.

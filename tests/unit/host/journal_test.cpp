@@ -54,8 +54,7 @@ TEST_F(JournalTest, ADatedPostingAndACancellation) {
     ASSERT_TRUE(journal().Journal(1, 15, error, platform::DateSerial(2026, 11, 18))) << error;
     ASSERT_TRUE(journal().Journal(global().GetCancelCounter(), 15, error)) << error;
     EXPECT_EQ(Postings(), (std::vector<std::string>{
-                              "C1|125|0|18/11/2026|1|Dispatch 15|Admin",
-                              "Sales|0|125|18/11/2026|1|Dispatch 15|Admin",
+                              "C1|125|0|18/11/2026|1|Dispatch 15|Admin", "Sales|0|125|18/11/2026|1|Dispatch 15|Admin",
                               "C1|0|125|20/11/2026 10:15:00|3|Cancellation of Dispatch 15|Admin",
                               "Sales|125|0|20/11/2026 10:15:00|3|Cancellation of Dispatch 15|Admin"}));
 }

@@ -27,13 +27,11 @@ TEST_F(DialogsTest, MessageBoxesTakeQueuedAnswersInOrderThenTheirDefaults) {
     EXPECT_EQ(messages().AskMessage("Again?", YesNoCancelQuestionSecond), 6);
     EXPECT_EQ(messages().AskMessage("Invalid Password", 64), 1);
     EXPECT_EQ(messages().AskMessage("Continue?", 1), 1);
-    EXPECT_EQ(Lines(), (std::vector<std::string>{
-                           "message 292 \"Print?\" -> 7",
-                           "message 291 \"Print now?\" -> 2",
-                           "message 292 \"Again?\" -> 6 (default)",
-                           "message 291 \"Again?\" -> 6 (default)",
-                           "message 64 \"Invalid Password\" -> 1 (default)",
-                           "message 1 \"Continue?\" -> 1 (default)"}));
+    EXPECT_EQ(Lines(),
+              (std::vector<std::string>{
+                  "message 292 \"Print?\" -> 7", "message 291 \"Print now?\" -> 2",
+                  "message 292 \"Again?\" -> 6 (default)", "message 291 \"Again?\" -> 6 (default)",
+                  "message 64 \"Invalid Password\" -> 1 (default)", "message 1 \"Continue?\" -> 1 (default)"}));
     EXPECT_EQ(transcript.TakeMessages().size(), 6u);
 }
 
@@ -69,10 +67,14 @@ TEST_F(DialogsTest, TheMemoDialogChangesTheMemosOnlyWhenAcceptedAndEditable) {
 
 TEST_F(DialogsTest, AnswersNoDialogCouldGiveAreRefused) {
     const std::vector<std::pair<std::string, std::vector<std::string>>> wrong = {
-        {"AskMessage", {"9"}},          {"AskMessage", {"yes"}},
-        {"AskMessage", {"6", "7"}},     {"ConfirmSaveOnExit", {"maybe"}},
-        {"SelectScheme", {"four"}},     {"ShowMemoDialog", {"a", "b", "ok"}},
-        {"ShowMemoDialog", {"a", "b", "c", "done"}}, {"InputPassword", {}},
+        {"AskMessage", {"9"}},
+        {"AskMessage", {"yes"}},
+        {"AskMessage", {"6", "7"}},
+        {"ConfirmSaveOnExit", {"maybe"}},
+        {"SelectScheme", {"four"}},
+        {"ShowMemoDialog", {"a", "b", "ok"}},
+        {"ShowMemoDialog", {"a", "b", "c", "done"}},
+        {"InputPassword", {}},
         {"NoSuchDialog", {"1"}}};
     for (const auto& [dialog, values] : wrong) {
         EXPECT_FALSE(host::DialogAnswers::Problem(dialog, values).empty()) << dialog;
@@ -109,10 +111,9 @@ TEST_F(DialogsTest, NumberedMessagesStatusLinesAndErrorsGoToTheTranscript) {
     global().ShowNumberedMessage(55, 1, {});
     global().ShowNumberedMessage(999, 1, {});
     global().ShowNumberedMessage(500, 1, {"A1", "B2"});
-    EXPECT_EQ(Lines(), (std::vector<std::string>{
-                           "numbered 55", "message 64 \"Select a valid Salesman.\" -> 1",
-                           "numbered 999", "message 64 \"Message 999 not found\" -> 1",
-                           "numbered 500", "message 64 \"Item A1 of B2\" -> 1"}));
+    EXPECT_EQ(Lines(), (std::vector<std::string>{"numbered 55", "message 64 \"Select a valid Salesman.\" -> 1",
+                                                 "numbered 999", "message 64 \"Message 999 not found\" -> 1",
+                                                 "numbered 500", "message 64 \"Item A1 of B2\" -> 1"}));
     EXPECT_EQ(transcript.TakeNumbered(), (std::vector<long>{55, 999, 500}));
     EXPECT_TRUE(transcript.TakeNumbered().empty());
 
@@ -155,7 +156,7 @@ TEST_F(DialogsTest, ASettingTakesNamesInAnyCaseAndRefusesABadValue) {
 TEST_F(DialogsTest, ASettingsFileIsTakenWholeOrNotAtAll) {
     const std::string good = test_support::ScratchPath("host", ".ini"), bad = good + ".bad";
     std::ofstream(good) << "[Settings]\nGetPrintOnSaveMode = 1\nAdministratorPassword = s3cret\n"
-                                 "[Other]\nGetOCGEnabled = true\n";
+                           "[Other]\nGetOCGEnabled = true\n";
     std::ofstream(bad) << "[Settings]\nGetPrinterService = 1\nGetCloseDayMode = often\n";
     EXPECT_TRUE(settings.LoadFile(good));
     EXPECT_EQ(global().GetPrintOnSaveMode(), 1);

@@ -88,7 +88,8 @@ TEST_F(Controls, ListIndexClicksOnAMoveAndRefusesOutOfRange) {
     list.SetListIndex(1);
     list.SetListIndex(1);
     EXPECT_EQ(clicks, 1);
-    for (int outside : {2, -2}) EXPECT_EQ(ErrorNumberOf([&] { list.SetListIndex(outside); }), err::InvalidPropertyValue);
+    for (int outside : {2, -2})
+        EXPECT_EQ(ErrorNumberOf([&] { list.SetListIndex(outside); }), err::InvalidPropertyValue);
     EXPECT_EQ(list.ListIndex(), 1);
     EXPECT_EQ(ErrorNumberOf([&] { (void)list.List(2); }), 381);
 

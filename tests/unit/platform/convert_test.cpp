@@ -22,10 +22,10 @@ TEST(DateSerial, CountsDaysFromTheThirtiethOfDecember1899) {
         int year, month, day;
         double serial;
     } cases[] = {
-        {1899, 12, 30, 0},     {1899, 12, 29, -1},    {1900, 1, 1, 2},       {1900, 2, 28, 60},
+        {1899, 12, 30, 0},    {1899, 12, 29, -1},   {1900, 1, 1, 2},         {1900, 2, 28, 60},
         {1900, 3, 1, 61},  // 1900 was no leap year
-        {2000, 2, 29, 36585},  {2000, 3, 1, 36586},   {2024, 2, 29, 45351},  {2026, 11, 22, 46348},
-        {1800, 1, 1, -36522},  {100, 1, 1, -657434},  {9999, 12, 31, 2958465},
+        {2000, 2, 29, 36585}, {2000, 3, 1, 36586},  {2024, 2, 29, 45351},    {2026, 11, 22, 46348},
+        {1800, 1, 1, -36522}, {100, 1, 1, -657434}, {9999, 12, 31, 2958465},
     };
     for (const auto& c : cases)
         EXPECT_EQ(DateSerial(c.year, c.month, c.day).serial, c.serial) << c.year << '-' << c.month << '-' << c.day;
@@ -84,8 +84,8 @@ TEST(DateText, WritesAndReadsTheDatabaseFormAndWritesDayMonthYear) {
     EXPECT_EQ(ParseIsoDate("2026-11-22 13:05:09.600"), DateTime(2026, 11, 22, 13, 5, 10));
     EXPECT_EQ(ParseIsoDate("1899-12-29 06:00:00"), Date{-1.25});
     EXPECT_EQ(ParseIsoDate("2024-02-29"), DateSerial(2024, 2, 29));
-    for (const char* bad : {"2026-02-29", "2026-13-01", "2026-00-10", "2026-11-22 24:00:00", "2026-11-2",
-                            "abcd-ef-gh", "2026-11-22x", "2026-11-22 13:05", "22/11/2026", ""})
+    for (const char* bad : {"2026-02-29", "2026-13-01", "2026-00-10", "2026-11-22 24:00:00", "2026-11-2", "abcd-ef-gh",
+                            "2026-11-22x", "2026-11-22 13:05", "22/11/2026", ""})
         EXPECT_FALSE(ParseIsoDate(bad).has_value()) << '"' << bad << '"';
     EXPECT_EQ(DateToText(DateTime(2026, 11, 22, 13, 5, 9)), "22/11/2026 13:05:09");
     EXPECT_EQ(DateToText(Date{-1.25}), "29/12/1899 06:00:00");
@@ -97,12 +97,25 @@ TEST(NumberToText, WritesFifteenDigitsInTheShortestForm) {
         double value;
         const char* text;
     } cases[] = {
-        {-0.0, "0"}, {0.1 + 0.2, "0.3"}, {1.0 / 3.0, "0.333333333333333"}, {2.0 / 3.0, "0.666666666666667"},
-        {-1234.5678, "-1234.5678"}, {100.0, "100"}, {999999999999999.0, "999999999999999"},
+        {-0.0, "0"},
+        {0.1 + 0.2, "0.3"},
+        {1.0 / 3.0, "0.333333333333333"},
+        {2.0 / 3.0, "0.666666666666667"},
+        {-1234.5678, "-1234.5678"},
+        {100.0, "100"},
+        {999999999999999.0, "999999999999999"},
         // one digit more than fifteen goes to E notation; so do five zeros after the point
-        {1e15, "1E+15"}, {999999999999999.9, "1E+15"}, {-1234567890123456.0, "-1.23456789012346E+15"},
-        {1e100, "1E+100"}, {1.5e300, "1.5E+300"}, {0.0001, "0.0001"}, {0.000123, "0.000123"},
-        {0.00001, "1E-05"}, {0.0000123, "1.23E-05"}, {-0.00001, "-1E-05"}, {1e-100, "1E-100"},
+        {1e15, "1E+15"},
+        {999999999999999.9, "1E+15"},
+        {-1234567890123456.0, "-1.23456789012346E+15"},
+        {1e100, "1E+100"},
+        {1.5e300, "1.5E+300"},
+        {0.0001, "0.0001"},
+        {0.000123, "0.000123"},
+        {0.00001, "1E-05"},
+        {0.0000123, "1.23E-05"},
+        {-0.00001, "-1E-05"},
+        {1e-100, "1E-100"},
     };
     for (const auto& c : cases) EXPECT_EQ(NumberToText(c.value), c.text) << "value " << c.value;
 }
@@ -121,10 +134,17 @@ TEST(ToTextAndToNumber, GiveEachKindOfValueItsRuntimeMeaning) {
         Value value;
         double number;
     } cases[] = {
-        {Value(), 0},           {Value::Null(), 0},     {Value(""), 0},      {Value("12abc"), 0},
-        {Value("1 2"), 0},      {Value("  12  "), 12},  {Value("-1.5E3"), -1500}, {Value(5), 5},
+        {Value(), 0},
+        {Value::Null(), 0},
+        {Value(""), 0},
+        {Value("12abc"), 0},
+        {Value("1 2"), 0},
+        {Value("  12  "), 12},
+        {Value("-1.5E3"), -1500},
+        {Value(5), 5},
         {Value("1,234.50"), 1234.5},  // a cell written with grouping
-        {Value(true), -1},      {Value(Date{46348.25}), 46348.25},
+        {Value(true), -1},
+        {Value(Date{46348.25}), 46348.25},
     };
     for (const auto& c : cases) EXPECT_EQ(ToNumber(c.value), c.number) << ToText(c.value);
 }
@@ -134,11 +154,10 @@ TEST(IsNumeric, AcceptsWhatTheRuntimeAccepted) {
         const char* text;
         bool numeric;
     } cases[] = {
-        {"12", true},     {" 12 ", true},   {"-1.5e3", true}, {"1d2", true},  {"&HFF", true},
-        {"&o17", true},   {"1,000", true},  {"+.5", true},    {"5.", true},   {"1e400", true},
-        {"", false},      {" ", false},     {".", false},     {"-", false},   {"1 2", false},
-        {"abc", false},   {"12abc", false}, {"1e", false},    {",5", false},  {"&H", false},
-        {"&HFG", false},  {"1.2.3", false}, {"--1", false},
+        {"12", true},    {" 12 ", true}, {"-1.5e3", true}, {"1d2", true},    {"&HFF", true},   {"&o17", true},
+        {"1,000", true}, {"+.5", true},  {"5.", true},     {"1e400", true},  {"", false},      {" ", false},
+        {".", false},    {"-", false},   {"1 2", false},   {"abc", false},   {"12abc", false}, {"1e", false},
+        {",5", false},   {"&H", false},  {"&HFG", false},  {"1.2.3", false}, {"--1", false},
     };
     for (const auto& c : cases) EXPECT_EQ(IsNumericText(c.text), c.numeric) << '"' << c.text << '"';
     EXPECT_TRUE(IsNumeric(Value()));
@@ -159,13 +178,33 @@ TEST(CDblAndVal, CDblRefusesWhatValReadsAsFarAsItCan) {
         const char* text;
         double value;
     } cases[] = {
-        {"  12abc", 12},   {"1 2 3", 123},     {"&HFF", 255},      {"-.5e2", -50},    {"abc", 0},
-        {"2*0*5", 2},      {"", 0},            {"1.2.3", 1.2},     {"1e", 1},         {"1e+", 1},
-        {"1D2", 100},      {"+5", 5},          {" - 5", -5},       {"1,234", 1},      {"\t7\n8", 78},
-        {"-", 0},          {".", 0},           {"&O17", 15},       {"&h1f", 31},      {"&H", 0},
-        {"&HZ", 0},        {"&H1G", 1},
+        {"  12abc", 12},
+        {"1 2 3", 123},
+        {"&HFF", 255},
+        {"-.5e2", -50},
+        {"abc", 0},
+        {"2*0*5", 2},
+        {"", 0},
+        {"1.2.3", 1.2},
+        {"1e", 1},
+        {"1e+", 1},
+        {"1D2", 100},
+        {"+5", 5},
+        {" - 5", -5},
+        {"1,234", 1},
+        {"\t7\n8", 78},
+        {"-", 0},
+        {".", 0},
+        {"&O17", 15},
+        {"&h1f", 31},
+        {"&H", 0},
+        {"&HZ", 0},
+        {"&H1G", 1},
         // &H and &O numbers are 16-bit up to FFFF, 32-bit beyond, signed as the runtime's
-        {"&HFFFF", -1},    {"&H8000", -32768}, {"&H10000", 65536}, {"&HFFFFFFFF", -1},
+        {"&HFFFF", -1},
+        {"&H8000", -32768},
+        {"&H10000", 65536},
+        {"&HFFFFFFFF", -1},
     };
     for (const auto& c : cases) EXPECT_EQ(Val(c.text), c.value) << '"' << c.text << '"';
     EXPECT_EQ(ErrorNumberOf([] { Val("1e400"); }), err::Overflow);
@@ -178,9 +217,9 @@ TEST(RoundHalfEven, SendsTiesAsTheFiguresReadToTheEvenNeighbour) {
         int decimals;
         double rounded;
     } cases[] = {
-        {2.5, 0, 2},      {3.5, 0, 4},       {-2.5, 0, -2},   {0.5, 0, 0},         {2.5001, 0, 3},
-        {0.125, 2, 0.12}, {0.375, 2, 0.38},  {-0.125, 2, -0.12}, {2.675, 2, 2.68}, {1.005, 2, 1.0},
-        {1.015, 2, 1.02}, {0.1 + 0.2, 2, 0.3}, {9.995, 2, 10.0}, {0.0049, 2, 0.0}, {12.0, 3, 12.0},
+        {2.5, 0, 2},      {3.5, 0, 4},         {-2.5, 0, -2},      {0.5, 0, 0},      {2.5001, 0, 3},
+        {0.125, 2, 0.12}, {0.375, 2, 0.38},    {-0.125, 2, -0.12}, {2.675, 2, 2.68}, {1.005, 2, 1.0},
+        {1.015, 2, 1.02}, {0.1 + 0.2, 2, 0.3}, {9.995, 2, 10.0},   {0.0049, 2, 0.0}, {12.0, 3, 12.0},
     };
     for (const auto& c : cases)
         EXPECT_EQ(RoundHalfEven(c.value, c.decimals), c.rounded) << c.value << " to " << c.decimals;
@@ -193,9 +232,15 @@ TEST(CIntCLngIntFix, RoundOrCutWithinTheirRange) {
         long long cint, clng;
         double intPart, fixPart;
     } cases[] = {
-        {2.5, 2, 2, 2, 2},         {3.5, 4, 4, 3, 3},          {-2.5, -2, -2, -3, -2},
-        {-3.5, -4, -4, -4, -3},    {2.4999, 2, 2, 2, 2},       {-0.4, 0, 0, -1, -0},
-        {2.7, 3, 3, 2, 2},         {-3.0, -3, -3, -3, -3},     {32767.4, 32767, 32767, 32767, 32767},
+        {2.5, 2, 2, 2, 2},
+        {3.5, 4, 4, 3, 3},
+        {-2.5, -2, -2, -3, -2},
+        {-3.5, -4, -4, -4, -3},
+        {2.4999, 2, 2, 2, 2},
+        {-0.4, 0, 0, -1, -0},
+        {2.7, 3, 3, 2, 2},
+        {-3.0, -3, -3, -3, -3},
+        {32767.4, 32767, 32767, 32767, 32767},
         {-32768.5, -32768, -32768, -32769, -32768},
     };
     for (const auto& c : cases) {
@@ -250,51 +295,107 @@ void ExpectAll(std::initializer_list<FormatCase> cases) {
 
 TEST(FormatNumber, DigitPlacesPointGroupingAndRounding) {
     ExpectAll({
-        {1234.5, "0.00", "1234.50"}, {1234567.891, "#,##0.00", "1,234,567.89"}, {-1234.5, "#,##0.00", "-1,234.50"},
-        {0, "#,##0.00", "0.00"}, {5, "0,000", "0,005"}, {Value(1234567), "#,##0", "1,234,567"},
+        {1234.5, "0.00", "1234.50"},
+        {1234567.891, "#,##0.00", "1,234,567.89"},
+        {-1234.5, "#,##0.00", "-1,234.50"},
+        {0, "#,##0.00", "0.00"},
+        {5, "0,000", "0,005"},
+        {Value(1234567), "#,##0", "1,234,567"},
         {2, "0.##", "2."},  // the runtime kept the point
-        {2.125, "0.0#", "2.13"}, {0.5, "#.##", ".5"}, {0, "#", ""}, {5, "#00", "05"},
-        {1234, "00-00", "12-34"}, {123456, "00-00", "1234-56"}, {1.5, ".00", "1.50"},
-        {1e20, "0", "100000000000000000000"}, {5, "$0.00", "$5.00"}, {5, "\"Rs \"0.00", "Rs 5.00"},
-        {5, "0\\%", "5%"}, {Value(true), "0", "-1"},
+        {2.125, "0.0#", "2.13"},
+        {0.5, "#.##", ".5"},
+        {0, "#", ""},
+        {5, "#00", "05"},
+        {1234, "00-00", "12-34"},
+        {123456, "00-00", "1234-56"},
+        {1.5, ".00", "1.50"},
+        {1e20, "0", "100000000000000000000"},
+        {5, "$0.00", "$5.00"},
+        {5, "\"Rs \"0.00", "Rs 5.00"},
+        {5, "0\\%", "5%"},
+        {Value(true), "0", "-1"},
         // half away from zero on the figures as written; a negative rounding to nothing keeps its sign
-        {-2.5, "0", "-3"}, {1.005, "0.00", "1.01"}, {2.675, "0.00", "2.68"}, {9.999, "0.00", "10.00"},
-        {999.995, "#,##0.00", "1,000.00"}, {-0.001, "0.00", "-0.00"},
+        {-2.5, "0", "-3"},
+        {1.005, "0.00", "1.01"},
+        {2.675, "0.00", "2.68"},
+        {9.999, "0.00", "10.00"},
+        {999.995, "#,##0.00", "1,000.00"},
+        {-0.001, "0.00", "-0.00"},
     });
 }
 
 TEST(FormatNumber, SectionsScalingExponentsNamedFormatsAndText) {
     ExpectAll({
-        {-5, "0;(0)", "(5)"}, {5, "0;(0)", "5"}, {0, "0;(0);\\Z\\e\\r\\o", "Zero"}, {0, "0.00;;\"Nil\"", "Nil"},
+        {-5, "0;(0)", "(5)"},
+        {5, "0;(0)", "5"},
+        {0, "0;(0);\\Z\\e\\r\\o", "Zero"},
+        {0, "0.00;;\"Nil\"", "Nil"},
         {-5, "0;;", "-5"},  // an empty section borrows the first
-        {0.256, "0%", "26%"}, {1234567, "#,##0,", "1,235"}, {1234567, "0,,.0", "1.2"}, {100000000, "##0,,", "100"},
-        {1234.5, "0.00E+00", "1.23E+03"}, {0.000123, "0.00E+00", "1.23E-04"}, {0.000123, "0.00E-00", "1.23E-04"},
-        {1234.5, "0.00E-00", "1.23E03"}, {9.999, "0.00E+00", "1.00E+01"}, {0, "0.00E+00", "0.00E+00"},
+        {0.256, "0%", "26%"},
+        {1234567, "#,##0,", "1,235"},
+        {1234567, "0,,.0", "1.2"},
+        {100000000, "##0,,", "100"},
+        {1234.5, "0.00E+00", "1.23E+03"},
+        {0.000123, "0.00E+00", "1.23E-04"},
+        {0.000123, "0.00E-00", "1.23E-04"},
+        {1234.5, "0.00E-00", "1.23E03"},
+        {9.999, "0.00E+00", "1.00E+01"},
+        {0, "0.00E+00", "0.00E+00"},
         {-1234.5, "0.0e+0", "-1.2e+3"},
-        {-0.5, "fixed", "-0.50"}, {1234567.891, "Standard", "1,234,567.89"}, {0.5, "Percent", "50.00%"},
-        {1234.5, "Scientific", "1.23E+03"}, {1234.5, "General Number", "1234.5"}, {1e15, "General Number", "1E+15"},
-        {1, "Yes/No", "Yes"}, {0, "Yes/No", "No"}, {-1, "True/False", "True"}, {0, "On/Off", "Off"},
-        {" 1,234.50 ", "0.00", "1234.50"}, {"abc", "0.00", "abc"}, {"", "0.00", ""}, {Value::Null(), "0.00", ""},
-        {Value(), "0.00", ""}, {1234.5, "", "1234.5"}, {"as is", "", "as is"},
+        {-0.5, "fixed", "-0.50"},
+        {1234567.891, "Standard", "1,234,567.89"},
+        {0.5, "Percent", "50.00%"},
+        {1234.5, "Scientific", "1.23E+03"},
+        {1234.5, "General Number", "1234.5"},
+        {1e15, "General Number", "1E+15"},
+        {1, "Yes/No", "Yes"},
+        {0, "Yes/No", "No"},
+        {-1, "True/False", "True"},
+        {0, "On/Off", "Off"},
+        {" 1,234.50 ", "0.00", "1234.50"},
+        {"abc", "0.00", "abc"},
+        {"", "0.00", ""},
+        {Value::Null(), "0.00", ""},
+        {Value(), "0.00", ""},
+        {1234.5, "", "1234.5"},
+        {"as is", "", "as is"},
     });
 }
 
 TEST(FormatDate, PatternsNamedFormatsAndTheValueReadAsTheFormatAsks) {
     const Value friday = DateTime(2027, 3, 5, 14, 7, 9);
     ExpectAll({
-        {DateSerial(2027, 3, 15), "MM/YYYY", "03/2027"}, {friday, "d/m/yy", "5/3/27"},
-        {friday, "dd-mmm-yyyy", "05-Mar-2027"}, {friday, "dddd, mmmm d", "Friday, March 5"}, {friday, "ddd", "Fri"},
-        {friday, "mm:ss", "07:09"}, {friday, "yyyy-mm-dd hh:nn", "2027-03-05 14:07"},
-        {friday, "hh:nn AM/PM", "02:07 PM"}, {friday, "h:nn am/pm", "2:07 pm"}, {friday, "h A/P", "2 P"},
-        {DateTime(2027, 3, 5, 0, 30, 0), "h AMPM", "12 AM"}, {friday, "q", "1"}, {friday, "y", "64"},
-        {friday, "w", "6"}, {DateSerial(2027, 1, 3), "ww", "2"}, {DateSerial(2026, 12, 31), "ww", "53"},
-        {friday, "\"Day \"d", "Day 5"}, {friday, "d\\d", "5d"}, {DateSerial(1899, 12, 29), "dd/mm/yyyy", "29/12/1899"},
-        {friday, "Short Date", "05/03/2027"}, {friday, "Medium Date", "05-Mar-27"},
-        {friday, "Long Date", "05 March 2027"}, {friday, "Long Time", "14:07:09"}, {friday, "Medium Time", "02:07 PM"},
-        {friday, "Short Time", "14:07"}, {friday, "General Date", "05/03/2027 14:07:09"},
+        {DateSerial(2027, 3, 15), "MM/YYYY", "03/2027"},
+        {friday, "d/m/yy", "5/3/27"},
+        {friday, "dd-mmm-yyyy", "05-Mar-2027"},
+        {friday, "dddd, mmmm d", "Friday, March 5"},
+        {friday, "ddd", "Fri"},
+        {friday, "mm:ss", "07:09"},
+        {friday, "yyyy-mm-dd hh:nn", "2027-03-05 14:07"},
+        {friday, "hh:nn AM/PM", "02:07 PM"},
+        {friday, "h:nn am/pm", "2:07 pm"},
+        {friday, "h A/P", "2 P"},
+        {DateTime(2027, 3, 5, 0, 30, 0), "h AMPM", "12 AM"},
+        {friday, "q", "1"},
+        {friday, "y", "64"},
+        {friday, "w", "6"},
+        {DateSerial(2027, 1, 3), "ww", "2"},
+        {DateSerial(2026, 12, 31), "ww", "53"},
+        {friday, "\"Day \"d", "Day 5"},
+        {friday, "d\\d", "5d"},
+        {DateSerial(1899, 12, 29), "dd/mm/yyyy", "29/12/1899"},
+        {friday, "Short Date", "05/03/2027"},
+        {friday, "Medium Date", "05-Mar-27"},
+        {friday, "Long Date", "05 March 2027"},
+        {friday, "Long Time", "14:07:09"},
+        {friday, "Medium Time", "02:07 PM"},
+        {friday, "Short Time", "14:07"},
+        {friday, "General Date", "05/03/2027 14:07:09"},
         {DateSerial(2027, 3, 5), "General Date", "05/03/2027"},
-        {46461, "dd/mm/yyyy", "15/03/2027"}, {"2027-03-15", "dd/mm/yyyy", "15/03/2027"},
-        {"15/03/2027 10:00:00", "MM/YYYY", "03/2027"}, {"soon", "dd/mm/yyyy", "soon"},
+        {46461, "dd/mm/yyyy", "15/03/2027"},
+        {"2027-03-15", "dd/mm/yyyy", "15/03/2027"},
+        {"15/03/2027 10:00:00", "MM/YYYY", "03/2027"},
+        {"soon", "dd/mm/yyyy", "soon"},
         {DateSerial(2027, 3, 15), "0.00", "46461.00"},
     });
 }

@@ -101,7 +101,9 @@ TEST_F(Faults, FailsTheNthCallCountedFromNowWithoutReachingTheInnerConnection) {
     connection.FailNthCall(3);
     connection.BeginTrans();
     connection.RunProcedure("sp_a", {});
-    EXPECT_EQ(FailureOf([&] { connection.RunProcedure("sp_b", {{Value("x'y"), adtype::VarChar}}); }),
+    EXPECT_EQ(FailureOf([&] {
+                  connection.RunProcedure("sp_b", {{Value("x'y"), adtype::VarChar}});
+              }),
               "Injected failure of call 4: sp_b 'x''y'");
     EXPECT_EQ(inner->reached, (std::vector<std::string>{"Select 1", "begin", "sp_a"}));
     // Only that call: the next goes through.

@@ -18,7 +18,9 @@ using Entries = std::vector<std::pair<std::string, long>>;
 
 class MemoryLog : public ErrorLog {
 public:
-    void ReportError(const std::string& description, long number) override { entries.emplace_back(description, number); }
+    void ReportError(const std::string& description, long number) override {
+        entries.emplace_back(description, number);
+    }
     Entries entries;
 };
 
@@ -63,8 +65,9 @@ TEST(RunHandledInTransaction, RollsBackOnlyAnOpenTransactionAndClearsTheFlag) {
     connection.reached.clear();
     RunHandledInTransaction(log, "Q - ", connection, bInTransaction, [&] { throw RuntimeError(err::TypeMismatch); });
     EXPECT_TRUE(connection.reached.empty());
-    EXPECT_EQ(log.entries, (Entries{{"Dispatch: SaveDispatch - Violation of PRIMARY KEY constraint", err::DatabaseError},
-                                    {"Q - Type mismatch", err::TypeMismatch}}));
+    EXPECT_EQ(log.entries,
+              (Entries{{"Dispatch: SaveDispatch - Violation of PRIMARY KEY constraint", err::DatabaseError},
+                       {"Q - Type mismatch", err::TypeMismatch}}));
 }
 
 TEST(RunHandledInTransaction, ReportsTheOriginalErrorWhenTheRollbackFailsToo) {
@@ -85,8 +88,9 @@ TEST(ProgramFault, IsLoggedAsAnInternalErrorWhenNotStrict) {
     EXPECT_FALSE(RunHandled(log, "Invoice : ComputeAmount - ", [] { throw std::logic_error("row past the end"); }));
     RunHandled(log, "P - ", [] { throw 42; });
     const std::string internal = StandardDescription(err::InternalError);
-    EXPECT_EQ(log.entries, (Entries{{"Invoice : ComputeAmount - " + internal + ": row past the end", err::InternalError},
-                                    {"P - " + internal, err::InternalError}}));
+    EXPECT_EQ(log.entries,
+              (Entries{{"Invoice : ComputeAmount - " + internal + ": row past the end", err::InternalError},
+                       {"P - " + internal, err::InternalError}}));
 }
 
 TEST(ProgramFaultDeathTest, AbortsNamingTheExceptionWhenStrict) {

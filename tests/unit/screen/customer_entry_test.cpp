@@ -115,7 +115,8 @@ class CustomerCredit : public ScreenTest {};
 TEST_F(CustomerCredit, TheFiguresOfTheCreditLine) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     f.ShowCustomerCredit("Deepam Supermarket", false);
-    EXPECT_EQ(LastStatus(), "Net Cr Limit: 5000.00, Net O/S: 5200.00, Not Overdue: 5200.00, Overdue: 0.00, Chqs in Hand: 0");
+    EXPECT_EQ(LastStatus(),
+              "Net Cr Limit: 5000.00, Net O/S: 5200.00, Not Overdue: 5200.00, Overdue: 0.00, Chqs in Hand: 0");
     // Only a limit of -1 reads N/A.
     f.ShowCustomerCredit("Bharat Traders", false);
     EXPECT_EQ(LastStatus().rfind("Net Cr Limit: N/A,", 0), 0u);
@@ -133,8 +134,9 @@ TEST_F(CustomerCredit, TheFiguresOfTheCreditLine) {
 TEST_F(CustomerCredit, AnUnknownCustomerReadsZeroEverywhere) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     f.ShowCustomerCredit("No Such Customer", true);
-    EXPECT_EQ(LastStatus(),
-              "Net Cr Limit: 0.00, Net O/S: 0.00, Not Overdue: 0.00, Overdue: 0.00, Chqs in Hand: 0, No.of Bills O/S: 0");
+    EXPECT_EQ(
+        LastStatus(),
+        "Net Cr Limit: 0.00, Net O/S: 0.00, Not Overdue: 0.00, Overdue: 0.00, Chqs in Hand: 0, No.of Bills O/S: 0");
     EXPECT_EQ(Errors(), 0);
 }
 

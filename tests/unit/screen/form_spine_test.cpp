@@ -11,8 +11,13 @@ using screen::Zuro_frmDispatch_Dispatch;
 class FormSpine : public ScreenTest {};
 
 TEST_F(FormSpine, EachModeTitlesItsFrame) {
-    const char* titles[] = {"Dispatch from Sales Confirmation", "Generate New Dispatch", "Dispatch from Purchase Order",
-                            "View Dispatch", "Cancel Dispatch", "Dispatch from Sales Confirmation", "Dispatch Amendment"};
+    const char* titles[] = {"Dispatch from Sales Confirmation",
+                            "Generate New Dispatch",
+                            "Dispatch from Purchase Order",
+                            "View Dispatch",
+                            "Cancel Dispatch",
+                            "Dispatch from Sales Confirmation",
+                            "Dispatch Amendment"};
     for (long mode = 1; mode <= 7; ++mode) {
         Zuro_frmDispatch_Dispatch& f = Open(mode);
         EXPECT_EQ(f.FieldText("objLink"), titles[mode - 1]) << "mode " << mode;
@@ -58,9 +63,9 @@ TEST_F(FormSpine, TheGridFollowsTheMode) {
         bool addRows;
         bool deleteRows;
     };
-    for (const Expected& e : {Expected{1, true, 5, false, true}, Expected{2, false, 5, true, true},
-                              Expected{3, true, 5, false, true}, Expected{6, true, 5, false, true},
-                              Expected{7, false, 2, true, true}, Expected{4, false, 0, false, false}}) {
+    for (const Expected& e :
+         {Expected{1, true, 5, false, true}, Expected{2, false, 5, true, true}, Expected{3, true, 5, false, true},
+          Expected{6, true, 5, false, true}, Expected{7, false, 2, true, true}, Expected{4, false, 0, false, false}}) {
         SCOPED_TRACE("mode " + std::to_string(e.mode));
         Zuro_frmDispatch_Dispatch& f = Open(e.mode);
         EXPECT_EQ(f.DTFlexDispatch.ColLocked(grid::colItemCode), e.itemsLocked);

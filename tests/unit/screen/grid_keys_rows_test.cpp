@@ -225,7 +225,8 @@ TEST_F(GridKeysRows, CheckSchemeGathersTheSpecialCategoryAndOwnFreeRows) {
 TEST_F(GridKeysRows, TheLastRowDeletedForgetsTheSchemeRuns) {
     auto& f = OpenNote();
     Lines({{"A", "1", ""}});
-    f.arrPrevSKU.push_back({platform::Value("A"), platform::Value(5.0), platform::Value(0.0), platform::Value(1), platform::Value(1)});
+    f.arrPrevSKU.push_back(
+        {platform::Value("A"), platform::Value(5.0), platform::Value(0.0), platform::Value(1), platform::Value(1)});
     f.arrCurrSKU = f.arrPrevSKU;
     f.nPrevSKUCount = 1;
     f.nCurrSKUCount = 1;

@@ -97,7 +97,8 @@ class DocumentNumbering : public ScreenTest {};
 
 TEST_F(DocumentNumbering, ANewNoteProposesTheNextSerialAndTheDefaultType) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
-    const std::string next = std::to_string(std::stol(Scalar("SELECT LastNumber FROM DocumentNumbers WHERE DocType = 5")) + 1);
+    const std::string next =
+        std::to_string(std::stol(Scalar("SELECT LastNumber FROM DocumentNumbers WHERE DocType = 5")) + 1);
     EXPECT_EQ(f.lblDispatchID.Caption, "Serial No: DN" + next);
     EXPECT_EQ(f.szDefaultDocReference, "DN" + next);
     EXPECT_EQ(f.cbodocumenttype.Text(), "DN-TN");

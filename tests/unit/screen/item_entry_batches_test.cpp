@@ -11,15 +11,14 @@ protected:
     std::string BookStock(const std::string& code, long track, long priceOption, long category) {
         using platform::adtype::Integer;
         auto rs = database->RunProcedure("sp_get_bookstock", {{platform::Value(code), platform::adtype::VarChar},
-                                                               {platform::Value(track), Integer},
-                                                               {platform::Value(priceOption), Integer},
-                                                               {platform::Value(category), Integer},
-                                                               {platform::Value(0), Integer}});
+                                                              {platform::Value(track), Integer},
+                                                              {platform::Value(priceOption), Integer},
+                                                              {platform::Value(category), Integer},
+                                                              {platform::Value(0), Integer}});
         std::string rows;
         for (; !rs->Eof(); rs->MoveNext()) {
             if (!rows.empty()) rows += ";";
-            for (int field : {0, 2, 3, 5})
-                rows += platform::ToText(rs->Fields(field)) + (field == 5 ? "" : "|");
+            for (int field : {0, 2, 3, 5}) rows += platform::ToText(rs->Fields(field)) + (field == 5 ? "" : "|");
         }
         return rows;
     }

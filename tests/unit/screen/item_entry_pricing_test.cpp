@@ -21,7 +21,8 @@ TEST_F(ItemPricing, TheCustomersCategoryPicksThePriceAndOutsideOneToThreeItIsZer
         form->nCustomerCategory = category;
         ItemLine("FD001", "2", 24);
         EXPECT_EQ(Cell(grid::colOriginalPrice), price) << "category " << category;
-        EXPECT_EQ(Cell(grid::colSalePrice), platform::NumberToText(platform::Val(price) * 24)) << "category " << category;
+        EXPECT_EQ(Cell(grid::colSalePrice), platform::NumberToText(platform::Val(price) * 24))
+            << "category " << category;
     }
     EXPECT_EQ(Cell(grid::colBatchTrack), "1");
     EXPECT_EQ(Cell(grid::colPriceOption), "0");

@@ -66,13 +66,14 @@ TEST_F(ItemLookup, OneGroupListsItsItemsByCodeOrByNameAsTyped) {
 TEST_F(ItemLookup, AllCategoriesListEveryActiveGroupWhereTheModeAllowsThem) {
     Zuro_frmDispatch_Dispatch& f = Open(3);
     Party("Dinesh Raj", "4", f.szLblAllCategories, "1,2,3,4");
-    EXPECT_EQ(Statement(2), "Select Product_Code,ProductName From dbo.Fn_Get_Items_QAX_AllCat() Where ProductName Like 'x%'");
+    EXPECT_EQ(Statement(2),
+              "Select Product_Code,ProductName From dbo.Fn_Get_Items_QAX_AllCat() Where ProductName Like 'x%'");
     f.SetAutolistOption(2);
     List().ShowList("F");
     EXPECT_TRUE(ListRows().empty());  // the Festive Hamper's group is switched off
     List().ShowList("S");
-    EXPECT_EQ(ListRows(), (std::vector<std::string>{"Salt Crackers 200g", "Shampoo Sachet", "Shelf Strip",
-                                                    "Sunflower Oil 1L"}));
+    EXPECT_EQ(ListRows(),
+              (std::vector<std::string>{"Salt Crackers 200g", "Shampoo Sachet", "Shelf Strip", "Sunflower Oil 1L"}));
 }
 
 TEST_F(ItemLookup, ANewNoteRefusesASalesmanWithAllCategories) {
@@ -88,7 +89,8 @@ TEST_F(ItemLookup, ANewNoteRefusesASalesmanWithAllCategories) {
 TEST_F(ItemLookup, ACategoryMappedDSTypeSellsItsCategoriesWhateverTheGroup) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     Party("Chitra Devi", "3", "Health Care", "4");
-    EXPECT_EQ(Statement(1), "Select Product_Code,Product_Code From dbo.Fn_Get_DSTypeWiseSKU(3, 1) Where Product_Code Like 'x%'");
+    EXPECT_EQ(Statement(1),
+              "Select Product_Code,Product_Code From dbo.Fn_Get_DSTypeWiseSKU(3, 1) Where Product_Code Like 'x%'");
     f.SetAutolistOption(1);
     List().ShowList("");
     EXPECT_EQ(ListRows(), (std::vector<std::string>{"HC003", "HC002", "PC001", "HC001", "PC002", "PC003"}));
@@ -101,12 +103,14 @@ TEST_F(ItemLookup, AnAmendmentOffersTheNotesOwnItemsToo) {
     EXPECT_EQ(Statement(2),
               "Select Product_Code,ProductName From dbo.Fn_Get_DispatchItems_QAX('3',2) Where ProductName Like 'x%'");
     f.bAllCategories = true;
-    EXPECT_EQ(Statement(1),
-              "Select Product_Code,Product_Code From dbo.Fn_Get_DispatchItems_QAX_AllCat('2') Where Product_Code Like 'x%'");
+    EXPECT_EQ(
+        Statement(1),
+        "Select Product_Code,Product_Code From dbo.Fn_Get_DispatchItems_QAX_AllCat('2') Where Product_Code Like 'x%'");
     f.bAllCategories = false;
     Party("Chitra Devi", "3", "Health Care", "4");
-    EXPECT_EQ(Statement(2),
-              "Select Product_Code,ProductName From dbo.Fn_Get_DSTypeWiseSKU_Amend(3,2, 1) Where ProductName Like 'x%'");
+    EXPECT_EQ(
+        Statement(2),
+        "Select Product_Code,ProductName From dbo.Fn_Get_DSTypeWiseSKU_Amend(3,2, 1) Where ProductName Like 'x%'");
 }
 
 TEST_F(ItemLookup, NoGroupMeansNoListButTheCellStillTakesTyping) {

@@ -39,7 +39,9 @@ struct GrpExistsCase {
 };
 
 // Test names carry the lists, not the addresses of their texts.
-void PrintTo(const GrpExistsCase& c, std::ostream* out) { *out << "old \"" << c.szOld << "\" new \"" << c.szNew << "\""; }
+void PrintTo(const GrpExistsCase& c, std::ostream* out) {
+    *out << "old \"" << c.szOld << "\" new \"" << c.szNew << "\"";
+}
 
 class GrpExistsTest : public ::testing::TestWithParam<GrpExistsCase> {};
 
@@ -51,15 +53,14 @@ TEST_P(GrpExistsTest, ComparesEveryOldGroupWithEveryNewOne) {
     EXPECT_EQ(bAny, c.bAny) << c.szOld << " in " << c.szNew;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Lists, GrpExistsTest,
-    ::testing::Values(GrpExistsCase{"1,2", "2,1", true, true},    // the same groups in another order
-                      GrpExistsCase{"1,2", "2", false, true},     // one kept, one lost
-                      GrpExistsCase{"1,2,3", "1,2", false, true}, // the last old one lost
-                      GrpExistsCase{"3", "1,2,3", true, true},    // found at the last new place
-                      GrpExistsCase{"1", "2,3", false, false},
-                      GrpExistsCase{"12", "1,2", false, false},   // whole entries, not digits
-                      GrpExistsCase{"", "1", true, false},        // nothing before: nothing lost
-                      GrpExistsCase{"4", "", false, false}));
+INSTANTIATE_TEST_SUITE_P(Lists, GrpExistsTest,
+                         ::testing::Values(GrpExistsCase{"1,2", "2,1", true, true},  // the same groups in another order
+                                           GrpExistsCase{"1,2", "2", false, true},   // one kept, one lost
+                                           GrpExistsCase{"1,2,3", "1,2", false, true},  // the last old one lost
+                                           GrpExistsCase{"3", "1,2,3", true, true},     // found at the last new place
+                                           GrpExistsCase{"1", "2,3", false, false},
+                                           GrpExistsCase{"12", "1,2", false, false},  // whole entries, not digits
+                                           GrpExistsCase{"", "1", true, false},       // nothing before: nothing lost
+                                           GrpExistsCase{"4", "", false, false}));
 
 }  // namespace

@@ -24,8 +24,9 @@ protected:
 TEST_F(PartyServerObjects, MappingNarrowsEachPartyAndZeroLeavesItOpen) {
     const std::string mapped = "From dbo.Fn_Get_MappedSalemanBeatAndCustomer_QAX(";
     // The beats of a salesman, without the deactivated Porur (7).
-    EXPECT_EQ(Query("Select Distinct BeatID,BeatName " + mapped + "1,0,'') Where IsNull(BeatName,'') <> '' Order By BeatID"),
-              "1|Anna Nagar;2|T Nagar;3|Mylapore");
+    EXPECT_EQ(
+        Query("Select Distinct BeatID,BeatName " + mapped + "1,0,'') Where IsNull(BeatName,'') <> '' Order By BeatID"),
+        "1|Anna Nagar;2|T Nagar;3|Mylapore");
     // The salesmen of a beat.
     EXPECT_EQ(Query("Select Distinct SalesmanID " + mapped + "0,2,'') Order By SalesmanID"), "1;2");
     // The beats of a customer by name, in any case.

@@ -21,14 +21,16 @@ TEST_F(SaveTest, AKeyedNoteIsStoredWithItsLinesStockCounterAndPosting) {
 
     const std::string id = Scalar("SELECT MAX(DispatchID) FROM DispatchAbstract");
     EXPECT_EQ(Scalar("SELECT CustomerID || '|' || Status || '|' || SalesmanID || '|' || BeatID || '|' || DocReference "
-                     "FROM DispatchAbstract WHERE DispatchID = " + id),
+                     "FROM DispatchAbstract WHERE DispatchID = " +
+                     id),
               "C005|2|1|1|TN/DN/43");
     const std::string document = Scalar("SELECT DocumentID FROM DispatchAbstract WHERE DispatchID = " + id);
     EXPECT_EQ(std::stol(document), std::stol(serialBefore) + 1);
     EXPECT_EQ(Scalar("SELECT LastNumber FROM DocumentNumbers WHERE DocType = 5"), document);
     // Each line in its unit and in base units, from the batch the clerk chose.
     EXPECT_EQ(Scalar("SELECT GROUP_CONCAT(printf('%d:%s:%s:%g:%g:%g', Serial, Product_Code, Batch_Number, UOMQty, "
-                     "Quantity, UOMPrice), ',') FROM DispatchDetail WHERE DispatchID = " + id),
+                     "Quantity, UOMPrice), ',') FROM DispatchDetail WHERE DispatchID = " +
+                     id),
               "1:FD001:MB2401:2:48:216,2:FD002:CB101:10:120:156");
     EXPECT_EQ(std::stod(batch("MB2401")), std::stod(marieBefore) - 48);
     EXPECT_EQ(std::stod(batch("CB101")), std::stod(creamBefore) - 120);
@@ -69,7 +71,9 @@ TEST_F(SaveTest, EveryCallOfTheSaveFailingLeavesTablesAndGridAsTheyWere) {
     EXPECT_GE(failedCalls, 10);
     // The last call to fail was the commit: the note had been announced already.
     EXPECT_NE(lastFailureStatus.find("has been generated"), std::string::npos) << lastFailureStatus;
-    EXPECT_EQ(Scalar("SELECT COUNT(*) FROM DispatchAbstract WHERE CustomerID = 'C005' AND DispatchDate >= '2026-11-22'"), "1");
+    EXPECT_EQ(
+        Scalar("SELECT COUNT(*) FROM DispatchAbstract WHERE CustomerID = 'C005' AND DispatchDate >= '2026-11-22'"),
+        "1");
 }
 
 TEST_F(SaveTest, ANoteFromASalesConfirmationLowersItsPendingLinesAndClosesIt) {
@@ -80,7 +84,8 @@ TEST_F(SaveTest, ANoteFromASalesConfirmationLowersItsPendingLinesAndClosesIt) {
     ASSERT_TRUE(f.SaveDispatch()) << ErrorLines();
     const std::string document = Scalar("SELECT MAX(DocumentID) FROM DispatchAbstract");
     EXPECT_EQ(Scalar("SELECT Pending FROM SODetail WHERE SOLineID = 1"), "192");
-    EXPECT_EQ(Scalar("SELECT (Status & 128) || '|' || DispatchDocID FROM SOAbstract WHERE SONumber = 1"), "128|" + document);
+    EXPECT_EQ(Scalar("SELECT (Status & 128) || '|' || DispatchDocID FROM SOAbstract WHERE SONumber = 1"),
+              "128|" + document);
     // The list page comes back for the next confirmation.
     EXPECT_TRUE(f.Frame1(0).Enabled);
     EXPECT_TRUE(f.txtref.Locked);
@@ -96,7 +101,8 @@ TEST_F(SaveTest, StockThatCannotBeReadCountsAsNone) {
 TEST_F(SaveTest, AStockRefusalOnTheLastRowTakesTheWholeNoteBack) {
     auto& f = KeyNoteForRavi();
     // Another clerk has taken most of the batch since the line was keyed.
-    database->ExecuteNative("UPDATE Batch_Products SET Quantity = 3 WHERE Product_Code = 'FD002' AND Batch_Number = 'CB101'");
+    database->ExecuteNative(
+        "UPDATE Batch_Products SET Quantity = 3 WHERE Product_Code = 'FD002' AND Batch_Number = 'CB101'");
     const std::string tables = Tables();
     const std::string cells = GridCells();
 
@@ -158,8 +164,10 @@ TEST_F(SaveTest, AQuantityInThreeUnitsStoresARowForEachUnitWithACount) {
     ASSERT_TRUE(f.SaveDispatch()) << ErrorLines();
 
     const std::string id = Scalar("SELECT MAX(DispatchID) FROM DispatchAbstract");
-    EXPECT_EQ(Scalar("SELECT GROUP_CONCAT(printf('%g', UOMQty), ',') FROM (SELECT UOM, SUM(UOMQty) AS UOMQty FROM DispatchDetail "
-                     "WHERE DispatchID = " + id + " GROUP BY UOM ORDER BY MIN(DetailID))"),
+    EXPECT_EQ(Scalar("SELECT GROUP_CONCAT(printf('%g', UOMQty), ',') FROM (SELECT UOM, SUM(UOMQty) AS UOMQty FROM "
+                     "DispatchDetail "
+                     "WHERE DispatchID = " +
+                     id + " GROUP BY UOM ORDER BY MIN(DetailID))"),
               "2,5");
 }
 

@@ -5,9 +5,7 @@
 
 namespace screen_test {
 
-SaveTest::SaveTest() : faults(std::make_shared<platform::FaultInjectingConnection>(database)) {
-    UseConnection(faults);
-}
+SaveTest::SaveTest() : faults(std::make_shared<platform::FaultInjectingConnection>(database)) { UseConnection(faults); }
 
 screen::Zuro_frmDispatch_Dispatch& SaveTest::KeyNoteForRavi() {
     auto& f = Open(2);

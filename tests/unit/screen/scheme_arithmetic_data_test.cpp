@@ -73,7 +73,7 @@ TEST_F(SchemeData, ARowAndTheGridInBaseUnits) {
     grid.SetCell(2, colUOMID, "0");
     grid.SetCell(2, colQuantity, "0*0*5");
     EXPECT_EQ(f.GetActualQuantity(1, 1, 0, grid), 2 * caseRate);
-    EXPECT_EQ(f.GetActualQuantity(1, 3, caseRate, grid), 2);  // a case step counts cases
+    EXPECT_EQ(f.GetActualQuantity(1, 3, caseRate, grid), 2);      // a case step counts cases
     EXPECT_EQ(f.GetActualQuantity(1, 4, 2 * caseRate, grid), 2);  // value: price 2 a piece
     EXPECT_EQ(f.GetActualQuantity(2, 1, 0, grid), 5);
     // A multi-unit row replaces what came before it and counts twice.
@@ -99,7 +99,8 @@ TEST_F(SchemeData, DetailStringsAndTheSixteenBitScheme) {
 TEST_F(SchemeData, SaleTypeAndTheLeftOverAmounts) {
     auto& f = Open(2);
     EXPECT_EQ(f.GetSaleID("NO-SUCH-ITEM"), 2);
-    EXPECT_EQ(f.GetSaleID("FD001"), std::stol(Scalar("SELECT IFNULL(SaleID, 0) FROM Items WHERE Product_Code = 'FD001'")));
+    EXPECT_EQ(f.GetSaleID("FD001"),
+              std::stol(Scalar("SELECT IFNULL(SaleID, 0) FROM Items WHERE Product_Code = 'FD001'")));
     EXPECT_EQ(screen::Zuro_frmDispatch_Dispatch::ComputeDiscount(1, 2, 3), 0);
     f.ComputeTotal(1, true);
     EXPECT_EQ(Errors(), 0);

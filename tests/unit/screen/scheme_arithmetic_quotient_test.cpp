@@ -59,14 +59,14 @@ TEST(SlabCount, AgreesWithTheCountingOnRandomFigures) {
 TEST(SlabCount, AgreesWhereTheDividerIsFinerThanTheDividend) {
     std::mt19937_64 random(7);
     for (int i = 0; i < 30; ++i) {
-        const double divider = RandomDecimal(random, 0, 0);          // 1 to 9.99..., up to 14 decimals
-        const double dividend = RandomDecimal(random, 3, 4);          // 1000 to 99999, fewer decimals
+        const double divider = RandomDecimal(random, 0, 0);   // 1 to 9.99..., up to 14 decimals
+        const double dividend = RandomDecimal(random, 3, 4);  // 1000 to 99999, fewer decimals
         ASSERT_EQ(CountBySubtraction(dividend, divider), LiteralCount(dividend, divider))
             << platform::NumberToText(dividend) << " / " << platform::NumberToText(divider);
     }
-    for (const auto& [dividend, divider] : {std::pair{123456.789012345, 1.00000000000001},
-                                            std::pair{99999.9999999999, 0.999999999999999},
-                                            std::pair{20000.0, 1.00000000000005}}) {
+    for (const auto& [dividend, divider] :
+         {std::pair{123456.789012345, 1.00000000000001}, std::pair{99999.9999999999, 0.999999999999999},
+          std::pair{20000.0, 1.00000000000005}}) {
         EXPECT_EQ(CountBySubtraction(dividend, divider), LiteralCount(dividend, divider))
             << platform::NumberToText(dividend) << " / " << platform::NumberToText(divider);
     }

@@ -50,8 +50,9 @@ TEST(DatabaseFiles, RefusesWhatIsNotOursAndLeavesItAlone) {
         EmbeddedConnection::Options create;
         create.create = true;
         EmbeddedConnection other(foreign, create);
-        other.ExecuteScript("CREATE TABLE SchemaInfo (Name TEXT, Value TEXT); "
-                            "INSERT INTO SchemaInfo VALUES ('Application', 'Payroll');");
+        other.ExecuteScript(
+            "CREATE TABLE SchemaInfo (Name TEXT, Value TEXT); "
+            "INSERT INTO SchemaInfo VALUES ('Application', 'Payroll');");
     }
     EXPECT_EQ(testkit::Refusal([&] { OpenDatabase(foreign); }), "'" + foreign + "' is not a dispatch database.");
 }
@@ -60,20 +61,23 @@ TEST(DatabaseFiles, MakingRefusesAnExistingFileAndCleansUpAFailure) {
     testkit::ScratchFolder folder;
     const std::string existing = folder.File("existing.db");
     Write(existing, "keep me");
-    EXPECT_NE(testkit::Refusal([&] { CreateDatabaseFromScripts(existing, {testkit::SmallSchema()}); }).find("exists already"),
-              std::string::npos);
+    EXPECT_NE(
+        testkit::Refusal([&] { CreateDatabaseFromScripts(existing, {testkit::SmallSchema()}); }).find("exists already"),
+        std::string::npos);
     EXPECT_EQ(Contents(existing), "keep me");
 
     const std::string broken = folder.File("broken.db");
-    EXPECT_NE(testkit::Refusal([&] { CreateDatabaseFromScripts(broken, {testkit::SmallSchema(), "CREATE TABLE Customer (x);"}); })
-                  .find("already exists"),
+    EXPECT_NE(testkit::Refusal([&] {
+                  CreateDatabaseFromScripts(broken, {testkit::SmallSchema(), "CREATE TABLE Customer (x);"});
+              }).find("already exists"),
               std::string::npos);
     EXPECT_FALSE(std::filesystem::exists(broken));
     EXPECT_FALSE(std::filesystem::exists(broken + "-wal"));
 
     const std::string anonymous = folder.File("anonymous.db");
-    EXPECT_NE(testkit::Refusal([&] { CreateDatabaseFromScripts(anonymous, {"CREATE TABLE t (a);"}); }).find("SchemaInfo"),
-              std::string::npos);
+    EXPECT_NE(
+        testkit::Refusal([&] { CreateDatabaseFromScripts(anonymous, {"CREATE TABLE t (a);"}); }).find("SchemaInfo"),
+        std::string::npos);
     EXPECT_FALSE(std::filesystem::exists(anonymous));
 
     // An empty file, as a temporary-name call leaves it, may be filled.
@@ -104,9 +108,12 @@ TEST(DatabaseFiles, ACopyIsAConsistentPrivateSnapshot) {
     copy->Execute("Delete From Customer Where CustomerID = 'C002'");
     EXPECT_EQ(RowsText(writer->ExecuteNative("SELECT count(*) FROM Customer")), "2");
 
-    EXPECT_NE(testkit::Refusal([&] { CopyDatabase(source, folder.File("copy.db")); }).find("exists already"), std::string::npos);
+    EXPECT_NE(testkit::Refusal([&] { CopyDatabase(source, folder.File("copy.db")); }).find("exists already"),
+              std::string::npos);
     Write(folder.File("plain.txt"), "text");
-    EXPECT_NE(testkit::Refusal([&] { CopyDatabase(folder.File("plain.txt"), folder.File("copy2.db")); }).find("not a dispatch database"),
+    EXPECT_NE(testkit::Refusal([&] {
+                  CopyDatabase(folder.File("plain.txt"), folder.File("copy2.db"));
+              }).find("not a dispatch database"),
               std::string::npos);
     EXPECT_FALSE(std::filesystem::exists(folder.File("copy2.db")));
 }

@@ -16,7 +16,8 @@ std::string ErrorOf(const std::string& sql) {
 }
 
 TEST(Dialect, RewritesTheServersNamesAndFunctions) {
-    EXPECT_EQ(TranslateStatement("Select [BillingAddress],[ShippingAddress] from [POAbstractReceived] Where [PONumber]  in (1,2)"),
+    EXPECT_EQ(TranslateStatement(
+                  "Select [BillingAddress],[ShippingAddress] from [POAbstractReceived] Where [PONumber]  in (1,2)"),
               "Select \"BillingAddress\",\"ShippingAddress\" from \"POAbstractReceived\" Where \"PONumber\" in (1,2)");
     EXPECT_EQ(TranslateStatement("Select IsNull([GroupID],-1) from dbo.SOAbstract"),
               "Select ifnull(\"GroupID\",-1) from SOAbstract");
@@ -25,7 +26,8 @@ TEST(Dialect, RewritesTheServersNamesAndFunctions) {
     EXPECT_EQ(TranslateStatement("Select @@IDENTITY"), "Select last_insert_rowid()");
     EXPECT_EQ(TranslateStatement("Update t Set d = getdate()"), "Update t Set d = datetime('now','localtime')");
     EXPECT_EQ(TranslateStatement("Select a From t Where b !< 3"), "Select a From t Where b >= 3");
-    EXPECT_EQ(TranslateStatement("Select a From [dbo].Items With (NOLOCK) Where b = 1"), "Select a From Items Where b = 1");
+    EXPECT_EQ(TranslateStatement("Select a From [dbo].Items With (NOLOCK) Where b = 1"),
+              "Select a From Items Where b = 1");
     EXPECT_EQ(TranslateStatement("Select N'No. ' + Code + '/' + Name, Quantity + 5 From t"),
               "Select 'No. ' || Code || '/' || Name, Quantity + 5 From t");
 }
@@ -37,14 +39,16 @@ TEST(Dialect, MovesTopToALimitAtTheEndOfItsOwnSelect) {
     EXPECT_EQ(TranslateStatement("Select TOP (2) a From t"), "Select a From t LIMIT 2");
     EXPECT_EQ(TranslateStatement("Select a From t Where b = (Select top 1 b From u Order By c) And d = 1"),
               "Select a From t Where b = (Select b From u Order By c LIMIT 1) And d = 1");
-    EXPECT_EQ(TranslateStatement("Insert Into t (a) Select top 3 a From u"), "Insert Into t (a) Select a From u LIMIT 3");
+    EXPECT_EQ(TranslateStatement("Insert Into t (a) Select top 3 a From u"),
+              "Insert Into t (a) Select a From u LIMIT 3");
 }
 
 TEST(Dialect, NeverTouchesTheInsideOfALiteral) {
     EXPECT_EQ(TranslateStatement("Select a From t Where n = N'O''Brien'"), "Select a From t Where n = 'O''Brien'");
     const std::string tricky = "'top 5 IsNull(x,1) dbo.t [b] getdate() -- ; @@IDENTITY N''q'''";
     EXPECT_EQ(TranslateStatement("Select a From t Where n = N" + tricky), "Select a From t Where n = " + tricky);
-    EXPECT_EQ(TranslateStatement("Select a From t Where n = 'select top 1 *'"), "Select a From t Where n = 'select top 1 *'");
+    EXPECT_EQ(TranslateStatement("Select a From t Where n = 'select top 1 *'"),
+              "Select a From t Where n = 'select top 1 *'");
     // A word glued to a number still reads as two tokens.
     EXPECT_EQ(TranslateStatement("Select colwidth from formatinfo where formatid>=10and formatid<=14"),
               "Select colwidth from formatinfo where formatid>=10 and formatid<=14");

@@ -27,12 +27,14 @@ TEST_F(PrintDispatch, PrintsTheStoredNoteWithItsFreeLinesWorthNothing) {
               "Doc Reference, Memo 1, Memo 2, Memo 3, Total Value");
     const std::string today = Text("SELECT date('now', 'localtime')");
     EXPECT_EQ(testkit::RowsText(heading.front()),
-              "DN49|D:" + today + " 09:30:00|C001|Anand Stores|14 2nd Avenue, Anna Nagar, Chennai|"
-              "14 2nd Avenue, Anna Nagar, Chennai|Arun Kumar|Mylapore||TN/DN/42||||6816r");
+              "DN49|D:" + today +
+                  " 09:30:00|C001|Anand Stores|14 2nd Avenue, Anna Nagar, Chennai|"
+                  "14 2nd Avenue, Anna Nagar, Chennai|Arun Kumar|Mylapore||TN/DN/42||||6816r");
 
     const auto lines = Call("sp_print_DispatchDetail", {{9, Integer}});
     ASSERT_EQ(lines.size(), 1u);
-    EXPECT_EQ(Columns(lines.front()), "Item Code, Item Name, Batch, Unit, Quantity, Unit Price, Base Quantity, Value, Free");
+    EXPECT_EQ(Columns(lines.front()),
+              "Item Code, Item Name, Batch, Unit, Quantity, Unit Price, Base Quantity, Value, Free");
     EXPECT_EQ(testkit::RowsText(lines.front()),
               "FD001|Marie Biscuit 100g|MB2401|CASE|2r|2160r|480r|4320r|;"
               "FD002|Cream Biscuit 75g|CB101|BOX|10r|156r|120r|1560r|;"

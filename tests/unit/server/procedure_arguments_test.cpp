@@ -34,9 +34,13 @@ TEST(CoerceToParameterType, MakesTheValueIntoItsTypeCode) {
     EXPECT_EQ(CoerceToParameterType({"2026-11-22", adtype::Date}), Value(platform::DateSerial(2026, 11, 22)));
     EXPECT_TRUE(CoerceToParameterType({Value::Null(), adtype::Integer}).IsNull());
     EXPECT_TRUE(CoerceToParameterType({Value(), adtype::VarChar}).IsNull());
-    EXPECT_EQ(ServerError([] { CoerceToParameterType({"abc", adtype::Integer}); }),
+    EXPECT_EQ(ServerError([] {
+                  CoerceToParameterType({"abc", adtype::Integer});
+              }),
               "3421 Application uses a value of the wrong type for the current operation.");
-    EXPECT_EQ(ServerError([] { CoerceToParameterType({"31/31/2026", adtype::Date}); }),
+    EXPECT_EQ(ServerError([] {
+                  CoerceToParameterType({"31/31/2026", adtype::Date});
+              }),
               "3421 Application uses a value of the wrong type for the current operation.");
 }
 
@@ -57,7 +61,8 @@ TEST(ServerConversions, ToFloatTextAndBit) {
     EXPECT_EQ(ToServerFloat(Value(" 12.5")), Value(12.5));
     EXPECT_EQ(ToServerFloat(Value("1e3")), Value(1000.0));
     EXPECT_EQ(ToServerFloat(Value(3)), Value(3.0));
-    EXPECT_EQ(ServerError([] { ToServerFloat(Value("inf")); }), kDatabaseError + "Error converting data type varchar to float.");
+    EXPECT_EQ(ServerError([] { ToServerFloat(Value("inf")); }),
+              kDatabaseError + "Error converting data type varchar to float.");
     EXPECT_EQ(ToServerText(Value(12)), Value("12"));
     EXPECT_EQ(ToServerText(Value(0.1 + 0.2)), Value("0.3"));
     EXPECT_EQ(ToServerText(Value("as is ")), Value("as is "));

@@ -53,7 +53,8 @@ TEST_F(Procedures, AreFoundWithoutRegardToCaseOrOwner) {
 }
 
 TEST_F(Procedures, AWriterAnswersWithTheRowCountFirst) {
-    auto recordset = connection_->RunProcedure("sp_Take_Stock", {{7, platform::adtype::Integer}, {"12.5", platform::adtype::Double}});
+    auto recordset = connection_->RunProcedure("sp_Take_Stock",
+                                               {{7, platform::adtype::Integer}, {"12.5", platform::adtype::Double}});
     EXPECT_EQ(recordset->FieldCount(), 0);
     EXPECT_EQ(recordset->RowsAffected(), 1);
     ASSERT_TRUE(recordset->NextRecordset());

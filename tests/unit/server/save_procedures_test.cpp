@@ -20,10 +20,18 @@ using platform::adtype::VarChar;
 platform::ParameterList AbstractParameters(bool withGroup, const std::string* oldReference = nullptr) {
     platform::ParameterList list{{"1", VarChar}};
     if (oldReference) list.push_back({*oldReference, VarChar});
-    list.insert(list.end(), {{platform::DateTime(2024, 3, 1, 10, 45, 0), Date}, {"C005", VarChar},
-                             {"12 Gandhi Road", VarChar}, {"Godown 3", VarChar}, {1, Integer}, {"SC101", VarChar},
-                             {"Memo one", VarChar}, {"Memo two", VarChar}, {"", VarChar}, {"TN/DN/43", VarChar},
-                             {1, Integer}, {1, Integer}});
+    list.insert(list.end(), {{platform::DateTime(2024, 3, 1, 10, 45, 0), Date},
+                             {"C005", VarChar},
+                             {"12 Gandhi Road", VarChar},
+                             {"Godown 3", VarChar},
+                             {1, Integer},
+                             {"SC101", VarChar},
+                             {"Memo one", VarChar},
+                             {"Memo two", VarChar},
+                             {"", VarChar},
+                             {"TN/DN/43", VarChar},
+                             {1, Integer},
+                             {1, Integer}});
     if (withGroup) list.push_back({"1,2", VarChar});
     return list;
 }
@@ -42,7 +50,7 @@ TEST_F(SaveAbstract, StoresTheNoteAndSpendsTheNextNumberOfTheSerial) {
                    "FROM DispatchAbstract WHERE DispatchID = 10"),
               "D:2024-03-01 10:45:00|C005|12 Gandhi Road|Godown 3|1|1|SC101||Memo one|Memo two||TN/DN/43|1|1|1,2|");
     EXPECT_EQ(Count("SELECT COUNT(*) FROM DispatchAbstract WHERE DispatchID = 10 AND "
-                      "CreationTime >= datetime('now', 'localtime', '-1 minute')"),
+                    "CreationTime >= datetime('now', 'localtime', '-1 minute')"),
               1);
 
     // A note of all categories has no group; the proposal moves on with the serial.
@@ -60,11 +68,13 @@ TEST_F(SaveAbstract, StoresTheNoteAndSpendsTheNextNumberOfTheSerial) {
 
 TEST_F(SaveAbstract, TheReplacementOfAnAmendedNoteKeepsTheOldNumber) {
     const std::string old = "45";
-    EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract_Amend", AbstractParameters(true, &old)).back()), "10|50");
+    EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract_Amend", AbstractParameters(true, &old)).back()),
+              "10|50");
     EXPECT_EQ(Text("SELECT OriginalReference, RefNumber, NewRefNumber, DocReference, GroupID FROM DispatchAbstract "
                    "WHERE DispatchID = 10"),
               "45|1|SC101|TN/DN/43|1,2");
-    EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract_Amend", AbstractParameters(false, &old)).back()), "11|51");
+    EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract_Amend", AbstractParameters(false, &old)).back()),
+              "11|51");
     EXPECT_EQ(Text("SELECT GroupID FROM DispatchAbstract WHERE DispatchID = 11"), "-1");
 }
 
@@ -83,8 +93,9 @@ TEST_F(SaveAbstract, RefusesABadNoteAndSpendsNothing) {
     EXPECT_EQ(Refusal("sp_Save_DispatchAbstract", tooShort),
               "Procedure or function 'sp_Save_DispatchAbstract' expects parameter '@BeatID', which was not supplied.");
     // The amendment's list is one longer: the new note's full list is short for it.
-    EXPECT_EQ(Refusal("sp_Save_DispatchAbstract_Amend", AbstractParameters(false)),
-              "Procedure or function 'sp_Save_DispatchAbstract_Amend' expects parameter '@BeatID', which was not supplied.");
+    EXPECT_EQ(
+        Refusal("sp_Save_DispatchAbstract_Amend", AbstractParameters(false)),
+        "Procedure or function 'sp_Save_DispatchAbstract_Amend' expects parameter '@BeatID', which was not supplied.");
 
     EXPECT_EQ(Text(kLastDispatchNumber), "49");
     EXPECT_EQ(Count("SELECT COUNT(*) FROM DispatchAbstract"), 9);
@@ -98,8 +109,9 @@ platform::ParameterList SerialParameters(const std::string& type, long long disp
 }
 
 TEST_F(TransactionSerial, WritesTheReferenceAndMovesTheCountOfTheTypeSent) {
-    const std::string counts = "SELECT group_concat(DocumentType || '=' || LastCount, ' ') FROM "
-                               "(SELECT * FROM TransactionDocNumber ORDER BY DocumentType)";
+    const std::string counts =
+        "SELECT group_concat(DocumentType || '=' || LastCount, ' ') FROM "
+        "(SELECT * FROM TransactionDocNumber ORDER BY DocumentType)";
     ASSERT_EQ(Text(counts), "DN-KA=7 DN-OLD=112 DN-TN=42 SC-TN=113");
 
     // The proposed reference kept: the type's count moves, the user is told the
@@ -108,8 +120,9 @@ TEST_F(TransactionSerial, WritesTheReferenceAndMovesTheCountOfTheTypeSent) {
     EXPECT_EQ(Answer("sp_Update_TransactionSerial", SerialParameters("dn-tn", first, " TN/DN/43 ", 1)),
               platform::Value("DN50"));
     EXPECT_EQ(Text(counts), "DN-KA=7 DN-OLD=112 DN-TN=43 SC-TN=113");
-    EXPECT_EQ(Text("SELECT DocReference, DocumentType FROM DispatchAbstract WHERE DispatchID = " + std::to_string(first)),
-              "TN/DN/43|dn-tn");
+    EXPECT_EQ(
+        Text("SELECT DocReference, DocumentType FROM DispatchAbstract WHERE DispatchID = " + std::to_string(first)),
+        "TN/DN/43|dn-tn");
 
     // Changed after the prefix, the reference still spends the type's number.
     const long long second = NewNote();
@@ -121,8 +134,9 @@ TEST_F(TransactionSerial, WritesTheReferenceAndMovesTheCountOfTheTypeSent) {
     const long long third = NewNote();
     EXPECT_EQ(Answer("sp_Update_TransactionSerial", SerialParameters("", third, "  ", 0)), platform::Value("DN52"));
     EXPECT_EQ(Text(counts), "DN-KA=8 DN-OLD=112 DN-TN=43 SC-TN=113");
-    EXPECT_EQ(Text("SELECT DocReference, DocumentType FROM DispatchAbstract WHERE DispatchID = " + std::to_string(third)),
-              "DN52|");
+    EXPECT_EQ(
+        Text("SELECT DocReference, DocumentType FROM DispatchAbstract WHERE DispatchID = " + std::to_string(third)),
+        "DN52|");
 
     // A reference that comes without a type but is a type's prefix and a number
     // belongs to that type: its count moves up to the number, never down.
@@ -150,11 +164,13 @@ TEST_F(SalesConfirmations, PendingGoesDownLineByLineAndNeverBelowZero) {
     // Confirmation 1 holds Marie Biscuit at 240 pending; give it a second priced line
     // and a free one. Confirmation 4 holds Marie at 48 pending.
     db().ExecuteScript(
-        "INSERT INTO SODetail (SOLineID, SONumber, Product_Code, SalePrice, Quantity, Pending, UOM, UOMQty, UOMPrice) VALUES "
+        "INSERT INTO SODetail (SOLineID, SONumber, Product_Code, SalePrice, Quantity, Pending, UOM, UOMQty, UOMPrice) "
+        "VALUES "
         "(101, 1, 'FD001', 9.00, 48, 48, 1, 48, 9.00), (102, 1, 'FD001', 0, 24, 24, 2, 1, 0);");
-    const std::string pending = "SELECT group_concat(SOLineID || '=' || Pending, ' ') FROM "
-                                "(SELECT * FROM SODetail WHERE Product_Code = 'FD001' AND Pending > 0 OR SOLineID IN (1, 11, 101, 102) "
-                                "ORDER BY SOLineID)";
+    const std::string pending =
+        "SELECT group_concat(SOLineID || '=' || Pending, ' ') FROM "
+        "(SELECT * FROM SODetail WHERE Product_Code = 'FD001' AND Pending > 0 OR SOLineID IN (1, 11, 101, 102) "
+        "ORDER BY SOLineID)";
     auto lower = [&](double quantity, const std::string& confirmations, int free) {
         return Call("sp_update_sopending",
                     {{"fd001", VarChar}, {quantity, Double}, {confirmations, VarChar}, {free, Integer}});
@@ -189,23 +205,26 @@ TEST_F(SalesConfirmations, AreClosedAndPointAtTheDispatch) {
                    "WHERE SONumber IN (1, 2, 12)"),
               "1:128:50 2:0:0 12:192:0");
     EXPECT_EQ(Refusal("sp_close_so", {{99, Integer}}), "Sales confirmation 99 does not exist.");
-    EXPECT_EQ(Refusal("sp_update_soRefNumber", {{99, Integer}, {50, Integer}}), "Sales confirmation 99 does not exist.");
+    EXPECT_EQ(Refusal("sp_update_soRefNumber", {{99, Integer}, {50, Integer}}),
+              "Sales confirmation 99 does not exist.");
 }
 
 class CreditGate : public SaveDatabase {
 protected:
     static platform::ParameterList Parameters(const std::string& customer, const std::string& group, double exposure) {
-        return {{2, Integer},     {1, Integer},        {1, Integer},        {customer, VarChar},
+        return {{2, Integer},     {1, Integer},    {1, Integer},       {customer, VarChar},
                 {group, VarChar}, {100.0, Double}, {exposure, Double}, {0.0, Double}};
     }
     long long Exceeds(const std::string& customer, const std::string& group, double exposure) {
         return Answer("sp_CheckCreditLimitExceeds_QAX", Parameters(customer, group, exposure)).AsInteger();
     }
     void AddBill(int id, const std::string& customer, int dueOffset) {
-        db().ExecuteScript("INSERT INTO InvoiceAbstract (InvoiceID, DocumentID, InvoiceDate, PaymentDate, CustomerID, "
-                           "NetValue, Balance) VALUES (" + std::to_string(id) + ", " + std::to_string(id) +
-                           ", datetime(date('now', 'localtime', '-40 days')), datetime(date('now', 'localtime', '" +
-                           std::to_string(dueOffset) + " days')), '" + customer + "', 500, 500);");
+        db().ExecuteScript(
+            "INSERT INTO InvoiceAbstract (InvoiceID, DocumentID, InvoiceDate, PaymentDate, CustomerID, "
+            "NetValue, Balance) VALUES (" +
+            std::to_string(id) + ", " + std::to_string(id) +
+            ", datetime(date('now', 'localtime', '-40 days')), datetime(date('now', 'localtime', '" +
+            std::to_string(dueOffset) + " days')), '" + customer + "', 500, 500);");
     }
 };
 
@@ -216,9 +235,9 @@ TEST_F(CreditGate, StopsAnExposureAboveTheLimitOrOverdueBillsOfTheFirstGroupThat
     // overdue, and its Foods and Beverages terms allow none; another group has no
     // terms, and its ample limit lets it through.
     const std::tuple<const char*, const char*, double, long long> cases[] = {
-        {"C004", "1", 5300, 1}, {"C004", "1", 5000, 0}, {"C004", "3", 5300, 1}, {"C002", "1", 1e9, 0},
-        {"C003", "4", 49000, 0}, {"C003", "4", 50001, 1}, {"C006", "1,2", 0, 1}, {"C006", "3", 0, 0},
-        {"C006", "3, 2", 0, 1}};
+        {"C004", "1", 5300, 1}, {"C004", "1", 5000, 0},  {"C004", "3", 5300, 1},
+        {"C002", "1", 1e9, 0},  {"C003", "4", 49000, 0}, {"C003", "4", 50001, 1},
+        {"C006", "1,2", 0, 1},  {"C006", "3", 0, 0},     {"C006", "3, 2", 0, 1}};
     for (const auto& [customer, group, exposure, exceeds] : cases)
         EXPECT_EQ(Exceeds(customer, group, exposure), exceeds) << customer << " " << group << " " << exposure;
     EXPECT_EQ(Refusal("sp_CheckCreditLimitExceeds_QAX", Parameters("C999", "1", 0)), "Customer 'C999' does not exist.");
@@ -229,8 +248,9 @@ TEST_F(CreditGate, CountsOverdueAndOpenBillsByTheGroupsTerms) {
     AddBill(901, "C009", -15);
     AddBill(902, "C009", 10);
     EXPECT_EQ(Exceeds("C009", "4", 100), 0) << "15 days overdue is within the terms";
-    db().ExecuteScript("UPDATE InvoiceAbstract SET PaymentDate = datetime(date('now', 'localtime', '-16 days')) "
-                       "WHERE InvoiceID = 901;");
+    db().ExecuteScript(
+        "UPDATE InvoiceAbstract SET PaymentDate = datetime(date('now', 'localtime', '-16 days')) "
+        "WHERE InvoiceID = 901;");
     EXPECT_EQ(Exceeds("C009", "4", 100), 1);
     db().ExecuteScript("UPDATE InvoiceAbstract SET Balance = 0 WHERE InvoiceID = 901;");  // paid
     EXPECT_EQ(Exceeds("C009", "4", 100), 0);
@@ -240,7 +260,6 @@ TEST_F(CreditGate, CountsOverdueAndOpenBillsByTheGroupsTerms) {
     // A cancelled bill counts for nothing.
     db().ExecuteScript("UPDATE InvoiceAbstract SET Status = 192 WHERE InvoiceID = 904;");
     EXPECT_EQ(Exceeds("C009", "4", 100), 0);
-
 }
 
 }  // namespace

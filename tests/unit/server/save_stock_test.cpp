@@ -11,8 +11,10 @@ namespace {
 class SaveDetail : public SaveDatabase {
 protected:
     std::string Batches(const std::string& codes) {
-        return Text("SELECT group_concat(Batch_Code || '=' || Quantity, ' ') FROM (SELECT Batch_Code, Quantity FROM "
-                    "Batch_Products WHERE Batch_Code IN (" + codes + ") ORDER BY Batch_Code)");
+        return Text(
+            "SELECT group_concat(Batch_Code || '=' || Quantity, ' ') FROM (SELECT Batch_Code, Quantity FROM "
+            "Batch_Products WHERE Batch_Code IN (" +
+            codes + ") ORDER BY Batch_Code)");
     }
     // A new note of the usual customer, for the test's lines.
     const long long note = NewNote();
@@ -21,14 +23,19 @@ protected:
 TEST_F(SaveDetail, TakesAPricedLineFromTheBatchesInTheStockListsOrder) {
     // Cream Biscuit, no batch named, 12.5 boxes: the batch that expires first (CB102)
     // goes first, then CB101; the free stock of CB101 is not for sale.
-    Line line{.dispatchID = note, .item = "FD002", .originalPrice = 13, .baseQuantity = 150, .unitQuantity = 12.5,
-              .unitPrice = 156, .rowNumber = 3};
+    Line line{.dispatchID = note,
+              .item = "FD002",
+              .originalPrice = 13,
+              .baseQuantity = 150,
+              .unitQuantity = 12.5,
+              .unitPrice = 156,
+              .rowNumber = 3};
     EXPECT_EQ(StoreLine(line), 1);
     EXPECT_EQ(Batches("5, 6, 7"), "5=594.0 6=120.0 7=0.0");
     // One row a batch, one serial, the boxes shared in proportion.
-    EXPECT_EQ(NoteRows("Serial, Batch_Code, Batch_Number, Quantity, UOMQty", note, "ORDER BY DetailID"), "3|7|CB102|144r|12r;3|5|CB101|6r|0.5r");
-    EXPECT_EQ(NoteRows("SUM(Quantity), SUM(UOMQty), COUNT(DISTINCT UOM)", note, "GROUP BY Serial"),
-              "150r|12.5r|1");
+    EXPECT_EQ(NoteRows("Serial, Batch_Code, Batch_Number, Quantity, UOMQty", note, "ORDER BY DetailID"),
+              "3|7|CB102|144r|12r;3|5|CB101|6r|0.5r");
+    EXPECT_EQ(NoteRows("SUM(Quantity), SUM(UOMQty), COUNT(DISTINCT UOM)", note, "GROUP BY Serial"), "150r|12.5r|1");
 }
 
 TEST_F(SaveDetail, ANamedNumberLimitsTheBatchesAndExpiryIsJudgedOnTheDispatchDay) {
@@ -68,14 +75,21 @@ TEST_F(SaveDetail, GivesFreeStockToFreeLinesOnlyAndPrefersTheKindTheLineStoodOn)
 
     // A line of another category group on free stock goes as not free, and still
     // takes the free batch it was shown.
-    Line other{.dispatchID = note, .item = "PC002", .baseQuantity = 10, .batchTrack = 0, .freeRow = 1, .unit = 4,
-              .unitPrice = 0, .otherGroupItem = 1};
+    Line other{.dispatchID = note,
+               .item = "PC002",
+               .baseQuantity = 10,
+               .batchTrack = 0,
+               .freeRow = 1,
+               .unit = 4,
+               .unitPrice = 0,
+               .otherGroupItem = 1};
     EXPECT_EQ(StoreLine(other, false, false), 1);
     EXPECT_EQ(Batches("20, 21"), "20=2000.0 21=490.0");
 
     // The goods of free lines carry no price, whatever came with them.
-    EXPECT_EQ(NoteRows("group_concat(FreeItem || Free || OtherCG_Item || ':' || SalePrice || '/' || UOMPrice, ' ')", note),
-              "110:0.0/0.0 100:0.0/0.0 110:0.0/0.0 110:0.0/0.0 011:0.0/0.0");
+    EXPECT_EQ(
+        NoteRows("group_concat(FreeItem || Free || OtherCG_Item || ':' || SalePrice || '/' || UOMPrice, ' ')", note),
+        "110:0.0/0.0 100:0.0/0.0 110:0.0/0.0 110:0.0/0.0 011:0.0/0.0");
 }
 
 TEST_F(SaveDetail, ARefusalTakesNothingAndStoresNothing) {
@@ -109,8 +123,15 @@ TEST_F(SaveDetail, TheCustomerPriceProcedureTakesTheBatchAtTheShownPriceFirst) {
     const long long stockistNote = NewNote("C003");
     // PCM24A stands at two prices: batch 24, the older, at PTS 18.00 and PTR 19.50,
     // batch 25 at PTS 19.00 and PTR 20.50. Left to the stock list's order, 24 goes first.
-    Line line{.dispatchID = stockistNote, .item = "HC001", .batch = "PCM24A", .originalPrice = 20.50, .baseQuantity = 100,
-              .customerCategory = 2, .unit = 2, .unitQuantity = 10, .unitPrice = 205};
+    Line line{.dispatchID = stockistNote,
+              .item = "HC001",
+              .batch = "PCM24A",
+              .originalPrice = 20.50,
+              .baseQuantity = 100,
+              .customerCategory = 2,
+              .unit = 2,
+              .unitQuantity = 10,
+              .unitPrice = 205};
     EXPECT_EQ(StoreLine(line, true), 1);
     EXPECT_EQ(Batches("24, 25, 26"), "24=1000.0 25=400.0 26=1500.0");
 
@@ -128,8 +149,14 @@ TEST_F(SaveDetail, TheCustomerPriceProcedureTakesTheBatchAtTheShownPriceFirst) {
 
 TEST_F(SaveDetail, AnItemThatKeepsNoStockTakesNone) {
     // The display stand's category keeps no stock, whatever the screen sends.
-    Line stand{.dispatchID = note, .item = "PM001", .originalPrice = 150, .baseQuantity = 3, .batchTrack = 0,
-              .unit = 1, .unitQuantity = 3, .unitPrice = 150};
+    Line stand{.dispatchID = note,
+               .item = "PM001",
+               .originalPrice = 150,
+               .baseQuantity = 3,
+               .batchTrack = 0,
+               .unit = 1,
+               .unitQuantity = 3,
+               .unitPrice = 150};
     EXPECT_EQ(StoreLine(stand), 1);
     // The screen's flag alone stops the take as well.
     Line crackers = stand;
@@ -138,35 +165,50 @@ TEST_F(SaveDetail, AnItemThatKeepsNoStockTakesNone) {
     crackers.baseQuantity = 600;  // more than batch 8 holds
     EXPECT_EQ(StoreLine(crackers), 1);
     EXPECT_EQ(Batches("8"), "8=500.0");
-    EXPECT_EQ(NoteRows("group_concat(Product_Code || ':' || Batch_Code || ':' || Track_Inventory || ':' || Quantity, ' ')", note),
-              "PM001:0:0:3.0 FD003:0:0:600.0");
+    EXPECT_EQ(
+        NoteRows("group_concat(Product_Code || ':' || Batch_Code || ':' || Track_Inventory || ':' || Quantity, ' ')",
+                 note),
+        "PM001:0:0:3.0 FD003:0:0:600.0");
 }
 
 TEST_F(SaveDetail, StoresEveryValueTheSaveSends) {
-    Line line{.dispatchID = note, .batch = "MB2402", .datedPosting = 1, .rowNumber = 4, .freeSerial = ",6",
-              .schemeIDs = "201", .splCatSchemeIDs = "301", .splCatScheme = 1, .splCatSerial = "7,",
-              .multiScheme = "201|2011|0|0", .multiSplCatScheme = "301|3011|0|0"};
+    Line line{.dispatchID = note,
+              .batch = "MB2402",
+              .datedPosting = 1,
+              .rowNumber = 4,
+              .freeSerial = ",6",
+              .schemeIDs = "201",
+              .splCatSchemeIDs = "301",
+              .splCatScheme = 1,
+              .splCatSerial = "7,",
+              .multiScheme = "201|2011|0|0",
+              .multiSplCatScheme = "301|3011|0|0"};
     EXPECT_EQ(StoreLine(line, true, true), 1);
-    EXPECT_EQ(NoteRows("Serial, Product_Code, Batch_Code, Batch_Number, SalePrice, Quantity, UOM, UOMQty, UOMPrice, "
-                       "Track_Batches, Track_Inventory, Price_Option, FreeItem, Free, OtherCG_Item, SchemeID, FreeSerial, "
-                       "CSchemeID, SPLCATSCHEMEID, SpecialCategoryScheme, SPLCATSERIAL, MultipleSchemeID, "
-                       "MultipleSchemeDetails, MultipleSplCategorySchemeID, MultipleSplCategorySchDetail, "
-                       "CustomerCategory, DatedPosting", note),
-              "4|FD001|2|MB2402|9r|24r|2|1r|216r|1|1|1|0|0|0|0|,6|201|301|1|7,|201|201|2011|0|0|301|301|3011|0|0|2|1");
+    EXPECT_EQ(
+        NoteRows("Serial, Product_Code, Batch_Code, Batch_Number, SalePrice, Quantity, UOM, UOMQty, UOMPrice, "
+                 "Track_Batches, Track_Inventory, Price_Option, FreeItem, Free, OtherCG_Item, SchemeID, FreeSerial, "
+                 "CSchemeID, SPLCATSCHEMEID, SpecialCategoryScheme, SPLCATSERIAL, MultipleSchemeID, "
+                 "MultipleSchemeDetails, MultipleSplCategorySchemeID, MultipleSplCategorySchDetail, "
+                 "CustomerCategory, DatedPosting",
+                 note),
+        "4|FD001|2|MB2402|9r|24r|2|1r|216r|1|1|1|0|0|0|0|,6|201|301|1|7,|201|201|2011|0|0|301|301|3011|0|0|2|1");
 
     // The short list sends the scheme as a number and the free serials as they stand.
     Line shortLine{.dispatchID = note, .schemeID = 17, .freeSerial = "5"};
     EXPECT_EQ(StoreLine(shortLine, false, false), 1);
-    EXPECT_EQ(NoteRows("SchemeID, FreeSerial, CSchemeID, Price_Option, CustomerCategory, DatedPosting", note, "ORDER BY DetailID DESC LIMIT 1"),
+    EXPECT_EQ(NoteRows("SchemeID, FreeSerial, CSchemeID, Price_Option, CustomerCategory, DatedPosting", note,
+                       "ORDER BY DetailID DESC LIMIT 1"),
               "17|5||0|0|0");
 }
 
 TEST_F(SaveDetail, ANoteDatedBackLowersTheOpeningsOfTheLaterDays) {
-    const std::string openings = "SELECT group_concat(Opening_Quantity || '/' || Free_Saleable_Quantity, ' ') FROM "
-                                 "(SELECT * FROM OpeningDetails WHERE Product_Code = 'FD001' ORDER BY Opening_Date)";
+    const std::string openings =
+        "SELECT group_concat(Opening_Quantity || '/' || Free_Saleable_Quantity, ' ') FROM "
+        "(SELECT * FROM OpeningDetails WHERE Product_Code = 'FD001' ORDER BY Opening_Date)";
     // The week-old opening, one of the note's own day (taken before the note), and today's.
-    db().ExecuteScript("INSERT INTO OpeningDetails (Product_Code, Opening_Date, Opening_Quantity, Free_Saleable_Quantity) "
-                       "VALUES ('FD001', datetime(date('now', 'localtime', '-3 days')), 4320, 480);");
+    db().ExecuteScript(
+        "INSERT INTO OpeningDetails (Product_Code, Opening_Date, Opening_Quantity, Free_Saleable_Quantity) "
+        "VALUES ('FD001', datetime(date('now', 'localtime', '-3 days')), 4320, 480);");
     const std::string before = Text(openings);
     ASSERT_EQ(before, "4320.0/480.0 4320.0/480.0 4320.0/480.0");
     Line line{.dispatchID = note, .batch = "MB2401", .dispatchDay = platform::Date{Today().serial - 3}};
@@ -202,7 +244,8 @@ TEST_F(SaveDetail, RefusesWhatNoLineCanBeAndChangesNothing) {
     platform::ParameterList tooShort = line.Parameters(false, false);
     tooShort.pop_back();
     EXPECT_EQ(Refusal(name, tooShort),
-              "Procedure or function 'sp_Save_dispatchdetail_UOM_QAX' expects parameter '@FreeSerial', which was not supplied.");
+              "Procedure or function 'sp_Save_dispatchdetail_UOM_QAX' expects parameter '@FreeSerial', which was not "
+              "supplied.");
     // The customer-price procedure's short list is one longer.
     EXPECT_NE(Refusal("sp_Save_dispatchDetail_csp_UOM_QAX", line.Parameters(false, false)).find("'@FreeSerial'"),
               std::string::npos);

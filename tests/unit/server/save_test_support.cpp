@@ -13,20 +13,39 @@ using platform::adtype::VarChar;
 
 platform::ParameterList Line::Parameters(bool customerPrice, bool longList) const {
     const platform::Value day = dispatchDay.IsEmpty() ? platform::Value(SaveDatabase::Today()) : dispatchDay;
-    platform::ParameterList list{{dispatchID, Integer}, {item, VarChar}, {batch, VarChar}, {originalPrice, Double},
-                                 {baseQuantity, Double}, {batchTrack, Integer}, {trackInventory, Integer},
-                                 {customerCategory, Integer}, {freeItem, Integer}, {freeRow, Integer}, {day, Date},
-                                 {datedPosting, Integer}, {unit, Integer}, {unitQuantity, Double}, {unitPrice, Double},
-                                 {rowNumber, Integer}, {otherGroupItem, Integer}};
+    platform::ParameterList list{{dispatchID, Integer},
+                                 {item, VarChar},
+                                 {batch, VarChar},
+                                 {originalPrice, Double},
+                                 {baseQuantity, Double},
+                                 {batchTrack, Integer},
+                                 {trackInventory, Integer},
+                                 {customerCategory, Integer},
+                                 {freeItem, Integer},
+                                 {freeRow, Integer},
+                                 {day, Date},
+                                 {datedPosting, Integer},
+                                 {unit, Integer},
+                                 {unitQuantity, Double},
+                                 {unitPrice, Double},
+                                 {rowNumber, Integer},
+                                 {otherGroupItem, Integer}};
     // Only the customer-price procedure is sent the customer's category.
     if (!customerPrice) list.erase(list.begin() + 7);
     if (!longList) {
         list.insert(list.end(), {{schemeID, Integer}, {freeSerial, VarChar}});
         return list;
     }
-    list.insert(list.end(), {{0, Integer}, {freeSerial, VarChar}, {schemeIDs, VarChar}, {splCatSchemeIDs, VarChar},
-                             {splCatScheme, Integer}, {splCatSerial, VarChar}, {schemeIDs, VarChar},
-                             {multiScheme, VarChar}, {splCatSchemeIDs, VarChar}, {multiSplCatScheme, VarChar}});
+    list.insert(list.end(), {{0, Integer},
+                             {freeSerial, VarChar},
+                             {schemeIDs, VarChar},
+                             {splCatSchemeIDs, VarChar},
+                             {splCatScheme, Integer},
+                             {splCatSerial, VarChar},
+                             {schemeIDs, VarChar},
+                             {multiScheme, VarChar},
+                             {splCatSchemeIDs, VarChar},
+                             {multiSplCatScheme, VarChar}});
     return list;
 }
 
@@ -40,7 +59,8 @@ SaveDatabase::SaveDatabase() : path_(folder_.File("save.db")), db_(CreateDatabas
 
 platform::Date SaveDatabase::Today() { return platform::DateOnly(testkit::LocalNow()); }
 
-std::vector<platform::ResultSet> SaveDatabase::Call(const std::string& name, const platform::ParameterList& parameters) {
+std::vector<platform::ResultSet> SaveDatabase::Call(const std::string& name,
+                                                    const platform::ParameterList& parameters) {
     return db_->CallProcedure(name, parameters);
 }
 
@@ -60,20 +80,33 @@ long long SaveDatabase::Count(const std::string& sql) {
 }
 
 std::string SaveDatabase::NoteRows(const std::string& columns, long long dispatchID, const std::string& rest) {
-    return Text("SELECT " + columns + " FROM DispatchDetail WHERE DispatchID = " + std::to_string(dispatchID) + " " + rest);
+    return Text("SELECT " + columns + " FROM DispatchDetail WHERE DispatchID = " + std::to_string(dispatchID) + " " +
+                rest);
 }
 
 long long SaveDatabase::NewNote(const std::string& customer, EmbeddedConnection* on) {
     const platform::Parameter blank{"", VarChar};
-    const auto results = (on ? *on : *db_).CallProcedure(
-        "sp_Save_DispatchAbstract", {blank, {testkit::LocalNow(), Date}, {customer, VarChar}, blank, blank, {2, Integer},
-                                     blank, blank, blank, blank, blank, {0, Integer}, {0, Integer}});
+    const auto results = (on ? *on : *db_)
+                             .CallProcedure("sp_Save_DispatchAbstract", {blank,
+                                                                         {testkit::LocalNow(), Date},
+                                                                         {customer, VarChar},
+                                                                         blank,
+                                                                         blank,
+                                                                         {2, Integer},
+                                                                         blank,
+                                                                         blank,
+                                                                         blank,
+                                                                         blank,
+                                                                         blank,
+                                                                         {0, Integer},
+                                                                         {0, Integer}});
     return FirstAnswer(results).AsInteger();
 }
 
 long long SaveDatabase::StoreLine(const Line& line, bool customerPrice, bool longList, EmbeddedConnection* on) {
     const char* name = customerPrice ? "sp_Save_dispatchDetail_csp_UOM_QAX" : "sp_Save_dispatchdetail_UOM_QAX";
-    const platform::Value answer = FirstAnswer((on ? *on : *db_).CallProcedure(name, line.Parameters(customerPrice, longList)));
+    const platform::Value answer =
+        FirstAnswer((on ? *on : *db_).CallProcedure(name, line.Parameters(customerPrice, longList)));
     return static_cast<long long>(platform::ToNumber(answer));
 }
 

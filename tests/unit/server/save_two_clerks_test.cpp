@@ -28,8 +28,14 @@ protected:
             start.arrive_and_wait();
             connection->BeginTrans();
             result.dispatchID = NewNote("C005", connection.get());
-            const Line carton{.dispatchID = result.dispatchID, .item = "BV002", .batch = "MJ10", .originalPrice = 85,
-                              .baseQuantity = 6, .unit = 6, .unitQuantity = 1, .unitPrice = 510};
+            const Line carton{.dispatchID = result.dispatchID,
+                              .item = "BV002",
+                              .batch = "MJ10",
+                              .originalPrice = 85,
+                              .baseQuantity = 6,
+                              .unit = 6,
+                              .unitQuantity = 1,
+                              .unitPrice = 510};
             result.stored = StoreLine(carton, false, true, connection.get());
             connection->CommitTrans();
         } catch (const platform::RuntimeError& error) {
@@ -59,9 +65,10 @@ TEST_F(TwoClerks, OnlyOneGetsTheLastCarton) {
     EXPECT_EQ(NoteRows("COUNT(*)", loser.dispatchID), "0");
     EXPECT_EQ(Text("SELECT Quantity FROM Batch_Products WHERE Batch_Number = 'MJ11'"), "300r");
     // Both notes took their own number.
-    EXPECT_EQ(Text("SELECT group_concat(DocumentID) FROM (SELECT DocumentID FROM DispatchAbstract WHERE DispatchID IN (" +
-                   std::to_string(first.dispatchID) + ", " + std::to_string(second.dispatchID) + ") ORDER BY 1)"),
-              "50,51");
+    EXPECT_EQ(
+        Text("SELECT group_concat(DocumentID) FROM (SELECT DocumentID FROM DispatchAbstract WHERE DispatchID IN (" +
+             std::to_string(first.dispatchID) + ", " + std::to_string(second.dispatchID) + ") ORDER BY 1)"),
+        "50,51");
 }
 
 }  // namespace

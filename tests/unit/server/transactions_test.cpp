@@ -36,8 +36,9 @@ TEST_F(Transactions, BeginTakesTheWriteLockAtOnce) {
 
     // The second clerk's writer waits out its busy timeout, then fails.
     auto started = std::chrono::steady_clock::now();
-    EXPECT_EQ(testkit::Refusal([&] { second_->Execute("UPDATE Batch_Products SET Quantity = 0 WHERE Batch_Code = 7"); }),
-              "database is locked");
+    EXPECT_EQ(
+        testkit::Refusal([&] { second_->Execute("UPDATE Batch_Products SET Quantity = 0 WHERE Batch_Code = 7"); }),
+        "database is locked");
     EXPECT_GE(std::chrono::steady_clock::now() - started, std::chrono::milliseconds(150));
     EXPECT_EQ(testkit::Refusal([&] { second_->BeginTrans(); }), "database is locked");
     EXPECT_FALSE(second_->InTransaction());
@@ -87,7 +88,9 @@ TEST_F(Transactions, AFailedStatementInsideLeavesTheTransactionOpen) {
     first_->BeginTrans();
     first_->Execute("UPDATE Batch_Products SET Quantity = 1 WHERE Batch_Code = 7");
     // A row for an item that does not exist breaks a foreign key.
-    EXPECT_EQ(testkit::Refusal([&] { first_->Execute("Insert Into Batch_Products (Batch_Code, Product_Code) Values (99, 'NONE')"); }),
+    EXPECT_EQ(testkit::Refusal([&] {
+                  first_->Execute("Insert Into Batch_Products (Batch_Code, Product_Code) Values (99, 'NONE')");
+              }),
               "FOREIGN KEY constraint failed");
     EXPECT_TRUE(first_->InTransaction());
     first_->RollbackTrans();

@@ -45,11 +45,13 @@ void FakeScreen::WireEvents() {
         if (code == swallowInKeyDown) code = 0;
     });
     txtCustomer.KeyPress.Connect([this](int& ascii) { Log(fmt::format("txtCustomer.KeyPress {}", ascii)); });
-    txtCustomer.KeyUp.Connect([this](int& code, int shift) { Log(fmt::format("txtCustomer.KeyUp {} {}", code, shift)); });
+    txtCustomer.KeyUp.Connect(
+        [this](int& code, int shift) { Log(fmt::format("txtCustomer.KeyUp {} {}", code, shift)); });
     cmdSave.GotFocus.Connect([this] { Log("cmdSave.GotFocus"); });
     cmdSave.Click.Connect([this] { Log("cmdSave.Click"); });
     lblTitle.Click.Connect([this] { Log("lblTitle.Click"); });
-    lstSO.ItemCheck.Connect([this](int row) { Log(fmt::format("lstSO.ItemCheck {} {}", row, lstSO.Item(row).Checked)); });
+    lstSO.ItemCheck.Connect(
+        [this](int row) { Log(fmt::format("lstSO.ItemCheck {} {}", row, lstSO.Item(row).Checked)); });
     lstSO.ItemClick.Connect([this](int row) { Log(fmt::format("lstSO.ItemClick {}", row)); });
     lstUOM.Click.Connect([this] { Log(fmt::format("lstUOM.Click {}", lstUOM.ListIndex())); });
     lstUOM.DblClick.Connect([this] { Log("lstUOM.DblClick"); });
@@ -58,7 +60,8 @@ void FakeScreen::WireEvents() {
     grid.KeyCode.Connect([this](int& code, int shift) { Log(fmt::format("grid.KeyCode {} {}", code, shift)); });
     grid.Change.Connect([this](int col) { Log(fmt::format("grid.Change {} {}", col, grid.EditText())); });
     grid.RowColChange.Connect([this](int row, int col) { Log(fmt::format("grid.RowColChange {} {}", row, col)); });
-    grid.AfterColUpdate.Connect([this](int row, int col, bool&) { Log(fmt::format("grid.AfterColUpdate {} {}", row, col)); });
+    grid.AfterColUpdate.Connect(
+        [this](int row, int col, bool&) { Log(fmt::format("grid.AfterColUpdate {} {}", row, col)); });
 }
 
 void FakeScreen::AddRoutines() {
@@ -102,9 +105,9 @@ void FakeScreen::MoveFocus(platform::Control& to) {
 }
 
 platform::Control* FakeScreen::FindControl(const std::string& name, int index) {
-    for (platform::Control* control : std::initializer_list<platform::Control*>{
-             &frame3, &txtCustomer, &txtInFrame, &txtLocked, &cmdSave, &cmdClose1, &lblTitle, &lstSO, &lstUOM,
-             &cboType, &dtFromDate, &grid})
+    for (platform::Control* control :
+         std::initializer_list<platform::Control*>{&frame3, &txtCustomer, &txtInFrame, &txtLocked, &cmdSave, &cmdClose1,
+                                                   &lblTitle, &lstSO, &lstUOM, &cboType, &dtFromDate, &grid})
         if (control->Name() == name && control->Index() == index) return control;
     return nullptr;
 }
@@ -156,8 +159,6 @@ private:
 
 }  // namespace
 
-std::unique_ptr<ScreenOpener> MakeFakeOpener(FakeOpenings& openings) {
-    return std::make_unique<FakeOpener>(openings);
-}
+std::unique_ptr<ScreenOpener> MakeFakeOpener(FakeOpenings& openings) { return std::make_unique<FakeOpener>(openings); }
 
 }  // namespace session::testing

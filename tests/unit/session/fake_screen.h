@@ -52,8 +52,8 @@ public:
 
     // ---- what the test arranges and reads ----------------------------------------
     std::vector<std::string> events;
-    int swallowInPreview = -1;   // the preview swallows this key code
-    int swallowInKeyDown = -1;   // txtCustomer's KeyDown swallows this key code
+    int swallowInPreview = -1;  // the preview swallows this key code
+    int swallowInKeyDown = -1;  // txtCustomer's KeyDown swallows this key code
     std::string szDocNumbers = "SC1,SC2";
 
 private:

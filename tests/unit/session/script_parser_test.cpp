@@ -27,7 +27,8 @@ int ErrorLine(std::string_view text) {
 ScriptCommand Command(std::vector<std::string> words) { return {7, std::move(words), "test"}; }
 
 TEST(ScriptParser, SkipsBlankAndCommentLinesAndKeepsLineNumbers) {
-    auto commands = ParseScript("# heading\n\n   \t\nopen dispatch 2\n  # indented comment\n  click cmdSave  \r\nshow\t#12");
+    auto commands =
+        ParseScript("# heading\n\n   \t\nopen dispatch 2\n  # indented comment\n  click cmdSave  \r\nshow\t#12");
     ASSERT_EQ(commands.size(), 3u);
     EXPECT_EQ(commands[0].line, 4);
     EXPECT_THAT(commands[0].words, ElementsAre("open", "dispatch", "2"));
@@ -44,10 +45,10 @@ TEST(ScriptParser, QuotedWordsKeepBlanksTakeTheThreeEscapesAndReadBackQuote) {
 }
 
 TEST(ScriptParser, BadQuotingIsAnErrorOfItsLine) {
-    EXPECT_EQ(ErrorLine("show rows\n\ntype txtCustomer \"ABC\n"), 3);        // unterminated
-    EXPECT_EQ(ErrorLine("show rows\ntype txtCustomer \"a\\nb\"\n"), 2);      // unknown escape
-    EXPECT_EQ(ErrorLine("type txtCustomer \"ab\"cd\n"), 1);                  // text after the quote
-    EXPECT_EQ(ErrorLine("# fine\ntype txtCustomer ab\"cd\"\n"), 2);          // quote inside a word
+    EXPECT_EQ(ErrorLine("show rows\n\ntype txtCustomer \"ABC\n"), 3);    // unterminated
+    EXPECT_EQ(ErrorLine("show rows\ntype txtCustomer \"a\\nb\"\n"), 2);  // unknown escape
+    EXPECT_EQ(ErrorLine("type txtCustomer \"ab\"cd\n"), 1);              // text after the quote
+    EXPECT_EQ(ErrorLine("# fine\ntype txtCustomer ab\"cd\"\n"), 2);      // quote inside a word
     EXPECT_EQ(ErrorLine("type txtCustomer \"ends in a backslash\\"), 1);
     try {
         ParseScript("type txtCustomer \"ABC");
@@ -67,7 +68,8 @@ TEST(ScriptWords, ControlNamesWithAndWithoutIndex) {
 }
 
 TEST(ScriptWords, MalformedWordsAreScriptErrorsOfTheirLine) {
-    for (std::string word : {"cmdClose(", "cmdClose(x)", "cmdClose(-1)", "(1)", "cmd-Close", "1txt", "", "Frame1(0)x"}) {
+    for (std::string word :
+         {"cmdClose(", "cmdClose(x)", "cmdClose(-1)", "(1)", "cmd-Close", "1txt", "", "Frame1(0)x"}) {
         try {
             ControlWord(Command({"click", word}), 1);
             ADD_FAILURE() << word << " accepted";
@@ -100,16 +102,20 @@ TEST(KeyAscii, CharacterOfEachKeyUnderShiftControlAndAlt) {
     struct Case {
         int code, mask, ascii;  // ascii 0: the key gives no character
     };
-    for (const auto& c : std::vector<Case>{
-             {13, 0, 13}, {13, shift, 13}, {27, 0, 27}, {8, 0, 8}, {32, 0, ' '},
-             {'A', 0, 'a'}, {'A', shift, 'A'}, {'C', ctrl, 3}, {'C', ctrl | shift, 3},
-             {'5', 0, '5'}, {'5', shift, '%'}, {'0', shift, ')'}, {96 + 7, 0, '7'}, {110, 0, '.'},
-             {190, 0, '.'}, {186, shift, ':'}, {222, shift, '"'},
-             {114, 0, 0}, {40, 0, 0}, {46, 0, 0}, {'A', keys::AltMask, 0}, {'5', ctrl, 0}}) {
+    for (const auto& c : std::vector<Case>{{13, 0, 13},       {13, shift, 13},   {27, 0, 27},
+                                           {8, 0, 8},         {32, 0, ' '},      {'A', 0, 'a'},
+                                           {'A', shift, 'A'}, {'C', ctrl, 3},    {'C', ctrl | shift, 3},
+                                           {'5', 0, '5'},     {'5', shift, '%'}, {'0', shift, ')'},
+                                           {96 + 7, 0, '7'},  {110, 0, '.'},     {190, 0, '.'},
+                                           {186, shift, ':'}, {222, shift, '"'}, {114, 0, 0},
+                                           {40, 0, 0},        {46, 0, 0},        {'A', keys::AltMask, 0},
+                                           {'5', ctrl, 0}}) {
         SCOPED_TRACE(::testing::Message() << c.code << " mask " << c.mask);
         auto ascii = KeyAscii(c.code, c.mask);
-        if (c.ascii == 0) EXPECT_FALSE(ascii);
-        else EXPECT_EQ(ascii, c.ascii);
+        if (c.ascii == 0)
+            EXPECT_FALSE(ascii);
+        else
+            EXPECT_EQ(ascii, c.ascii);
     }
 }
 

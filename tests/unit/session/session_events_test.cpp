@@ -1,7 +1,7 @@
 // The events a verb raises on the screen, and their order.
+#include "fake_screen.h"
 #include "platform/convert.h"
 #include "session/today.h"
-#include "fake_screen.h"
 
 namespace session::testing {
 namespace {
@@ -32,8 +32,9 @@ TEST_F(SessionTest, TranscriptEchoesEachCommandAndShowsFocusMoves) {
 }
 
 TEST_F(SessionTest, KeyGoesThroughThePreviewThenDownPressUpAndTypeAlwaysRaisesChange) {
-    Run(kOpen + "key txtCustomer 65 1\nkey txtCustomer 114\ntype txtCustomer \"Acme\"\ntype txtCustomer \"Acme\"\n"
-                "click lblTitle\ndblclick lstUOM\n");
+    Run(kOpen +
+        "key txtCustomer 65 1\nkey txtCustomer 114\ntype txtCustomer \"Acme\"\ntype txtCustomer \"Acme\"\n"
+        "click lblTitle\ndblclick lstUOM\n");
     EXPECT_THAT(Screen().events,
                 ElementsAre("txtCustomer.GotFocus", "Form_KeyDown 65 1", "txtCustomer.KeyDown 65 1",
                             "txtCustomer.KeyPress 65", "txtCustomer.KeyUp 65 1",
@@ -50,20 +51,21 @@ TEST_F(SessionTest, SwallowedKeyStopsTheRest) {
         screen.swallowInKeyDown = 13;
     };
     Run(kOpen + "key txtCustomer 27\nkey txtCustomer 13\n");
-    EXPECT_THAT(Screen().events, ElementsAre("txtCustomer.GotFocus", "Form_KeyDown 27 0",
-                                             "Form_KeyDown 13 0", "txtCustomer.KeyDown 13 0"));
+    EXPECT_THAT(Screen().events, ElementsAre("txtCustomer.GotFocus", "Form_KeyDown 27 0", "Form_KeyDown 13 0",
+                                             "txtCustomer.KeyDown 13 0"));
 }
 
 TEST_F(SessionTest, ListDateGridAndRoutineVerbsRaiseTheirEvents) {
-    auto outcome = Run(kOpen +
-                       "tick lstSO 2\ntick lstSO 2\nexpect checked lstSO \"2\"\nuntick lstSO 2\nexpect checked lstSO \"\"\n"
-                       "select lstUOM 2\nselect lstUOM 2\nselect cboType 1\nselect lstSO 1\n"
-                       "expect text cboType \"Note\"\nexpect text lstUOM \"Box\"\n"
-                       "date dtFromDate 2026-11-01\nexpect text dtFromDate \"2026-11-01\"\n"
-                       "cell 2 2 \"Rice\"\nexpect cell 2 2 \"Rice\"\ngrid key 65\n"
-                       "call Add 1 2.5\nexpect result \"3.5\"\ncall SplitFirst \"a,b,c\"\n"
-                       "answer AskMessage 7\nanswer AskMessage 2\ncall Ask\nexpect result \"7\"\ncall Ask\n"
-                       "expect result \"2\"\n");
+    auto outcome =
+        Run(kOpen +
+            "tick lstSO 2\ntick lstSO 2\nexpect checked lstSO \"2\"\nuntick lstSO 2\nexpect checked lstSO \"\"\n"
+            "select lstUOM 2\nselect lstUOM 2\nselect cboType 1\nselect lstSO 1\n"
+            "expect text cboType \"Note\"\nexpect text lstUOM \"Box\"\n"
+            "date dtFromDate 2026-11-01\nexpect text dtFromDate \"2026-11-01\"\n"
+            "cell 2 2 \"Rice\"\nexpect cell 2 2 \"Rice\"\ngrid key 65\n"
+            "call Add 1 2.5\nexpect result \"3.5\"\ncall SplitFirst \"a,b,c\"\n"
+            "answer AskMessage 7\nanswer AskMessage 2\ncall Ask\nexpect result \"7\"\ncall Ask\n"
+            "expect result \"2\"\n");
     EXPECT_EQ(outcome.status, 0) << outcome.out;
     const auto& events = Screen().events;
     auto count = [&](const char* event) { return std::count(events.begin(), events.end(), event); };

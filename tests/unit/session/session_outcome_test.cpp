@@ -112,7 +112,8 @@ TEST_F(SessionTest, FailedChecksAndRefusedActionsAreReportedAndTheScriptGoesOn) 
     for (std::size_t i = 0; i < steps.size(); ++i) {
         if (steps[i].failure.empty()) continue;
         ++failures;
-        EXPECT_THAT(outcome.out, HasSubstr(fmt::format("\nFAIL line {}: {}: {}", i + 3, steps[i].line, steps[i].failure)));
+        EXPECT_THAT(outcome.out,
+                    HasSubstr(fmt::format("\nFAIL line {}: {}: {}", i + 3, steps[i].line, steps[i].failure)));
     }
     EXPECT_EQ(CountOf(outcome.out, "FAIL line"), failures) << outcome.out;
     EXPECT_EQ(outcome.err, fmt::format("{} checks failed\n", failures));
@@ -137,16 +138,17 @@ TEST_F(SessionTest, ControlDisabledWhileItHasFocusTakesNoInput) {
 }
 
 TEST_F(SessionTest, ShowPrintsTheGridAndAControlsStateAndEntries) {
-    auto outcome = Run(kOpen + "show grid\nshow grid 1 7\nshow rows\ntick lstSO 1\nshow lstSO\nshow cmdSave\n"
-                               "show field szDocNumbers\nshow focus\nshow status\n");
+    auto outcome = Run(kOpen +
+                       "show grid\nshow grid 1 7\nshow rows\ntick lstSO 1\nshow lstSO\nshow cmdSave\n"
+                       "show field szDocNumbers\nshow focus\nshow status\n");
     EXPECT_EQ(outcome.status, 0) << outcome.out << outcome.err;
     EXPECT_EQ(outcome.err, "");
     EXPECT_THAT(outcome.out, HasSubstr("= row 0: Code|Name||||\n= row 1: A100|Soap||||\n= row 2: B200|||||\n"));
     EXPECT_THAT(outcome.out, HasSubstr("= row 0: Code|\n= row 1: A100|\n= row 2: B200|hidden\n"));
-    for (const char* line : {"= rows 2", "= lstSO ListView tag \"\" visible true enabled true",
-                             "=   1 [x] \"Acme Traders\" | \"SC1\"", "=   2 [ ] \"\" | \"SC2\"",
-                             "= cmdSave CommandButton caption \"&Save\" tag \"\" visible true enabled true",
-                             "= field szDocNumbers \"SC1,SC2\"", "= focus lstSO", "= status none"})
+    for (const char* line :
+         {"= rows 2", "= lstSO ListView tag \"\" visible true enabled true", "=   1 [x] \"Acme Traders\" | \"SC1\"",
+          "=   2 [ ] \"\" | \"SC2\"", "= cmdSave CommandButton caption \"&Save\" tag \"\" visible true enabled true",
+          "= field szDocNumbers \"SC1,SC2\"", "= focus lstSO", "= status none"})
         EXPECT_THAT(outcome.out, HasLine(line));
 }
 

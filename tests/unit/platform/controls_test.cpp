@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "controls_test_support.h"
@@ -13,19 +12,8 @@ namespace {
 using namespace platform;
 using controls_test::ErrorNumberOf;
 
-class RecordingScope : public FocusScope {
-public:
-    Control* ActiveControl() const override { return active; }
-    void MoveFocus(Control& to) override {
-        Control* previous = std::exchange(active, &to);
-        if (previous) previous->LostFocus.Raise();
-        to.GotFocus.Raise();
-    }
-    Control* active = nullptr;
-};
-
 TEST(ControlsFocus, MovesWithLostThenGotFocusAndIsRefusedUnderAHiddenOrDisabledFrame) {
-    RecordingScope scope;
+    controls_test::SingleFocus scope;
     Frame page{scope, "Frame3"}, inner{scope, "Frame5", 1};
     TextBox box{scope, "txtShippingAddress"};
     CommandButton save{scope, "cmdSave"};
@@ -99,24 +87,6 @@ TEST_F(Controls, ListIndexClicksOnAMoveAndRefusesOutOfRange) {
     list.RemoveItem(0);
     EXPECT_EQ(list.ListIndex(), -1);
     EXPECT_EQ(clicks, 1);
-}
-
-TEST_F(Controls, ComboTakesTheTextOfTheEntryItsIndexMovesTo) {
-    ComboBox combo{scope, "cbodocumenttype"};
-    combo.AddItem("Dispatch");
-    combo.AddItem("Sample");
-    combo.Change.Connect([&] { ++changes; });
-    combo.Click.Connect([&] { ++clicks; });
-
-    combo.SetListIndex(1);
-    EXPECT_EQ(combo.Text(), "Sample");
-    EXPECT_EQ(clicks, 1);
-    EXPECT_EQ(changes, 0);  // the move is a Click, not a Change
-    combo.SetListIndex(-1);
-    EXPECT_EQ(combo.Text(), "");
-    combo.SetListIndex(0);
-    combo.Clear();
-    EXPECT_EQ(combo.Text(), "");
 }
 
 TEST_F(Controls, TicksRaiseItemCheckAndAPlainListsSelectionIsItsIndex) {

@@ -25,6 +25,7 @@ protected:
     platform::ListBox lstUOM{scope, "lstUOM"};
     platform::DTFlex grid{scope, "DTFlexDispatch"};
     std::vector<std::string> events;
+    std::vector<int> codes;  // each key code as the KeyCode event saw it
     // What the AfterColUpdate handler refuses; empty refuses nothing.
     std::string refusedText;
 
@@ -50,6 +51,7 @@ protected:
             if (!refusedText.empty() && grid.GetCell(row, col) == refusedText) cancel = true;
         });
         grid.RowColChange.Connect([this, at](int row, int col) { events.push_back("RowColChange" + at(row, col)); });
+        grid.KeyCode.Connect([this](int& code, int) { codes.push_back(code); });
         grid.Change.Connect([this](int col) { events.push_back("Change " + std::to_string(col)); });
         for (auto [event, name] : {std::pair{&grid.AtLastRow, "AtLastRow"}, std::pair{&grid.AtFirstRow, "AtFirstRow"},
                                    std::pair{&grid.AfterDelete, "AfterDelete"}})
@@ -229,15 +231,7 @@ TEST_F(NewNoteGrid, AHandlerThatRemovesTheEditedRowLeavesTheEntryRowInPlace) {
 // raise RowColChange only when the cell really moves; and the unit list attached to
 // column 4: when it drops down, how a choice lands in the cell, when it closes.
 
-class NewNoteGridKeys : public NewNoteGrid {
-protected:
-    std::vector<int> codes;
-
-    void SetUp() override {
-        NewNoteGrid::SetUp();
-        grid.KeyCode.Connect([this](int& code, int) { codes.push_back(code); });
-    }
-};
+class NewNoteGridKeys : public NewNoteGrid {};
 
 TEST_F(NewNoteGridKeys, TypingReportsEachCharactersKeyCodeAndOneChange) {
     grid.SetGridCol(6);
@@ -419,9 +413,9 @@ protected:
         TakeEvents();
     }
     Codes ItemCodes() {
-        Codes codes;
-        for (int row = 1; row <= grid.GridRows(); ++row) codes.push_back(grid.GetCell(row, 1));
-        return codes;
+        Codes cells;
+        for (int row = 1; row <= grid.GridRows(); ++row) cells.push_back(grid.GetCell(row, 1));
+        return cells;
     }
     int deleteInstead = 0;
     bool cancelDelete = false;

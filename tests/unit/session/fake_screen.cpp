@@ -90,9 +90,6 @@ void FakeScreen::AddRoutines() {
         auto rows = services_.global.GetConnection().Execute(call.arguments.at(0));
         call.result = rows->Fields(0);
     });
-    routines_.Add("OCGEnabled", [this](screen::RoutineCall& call) {
-        call.result = platform::Value(services_.global.GetOCGEnabled());
-    });
     routines_.Add("Broken", [](screen::RoutineCall&) { throw platform::RuntimeError(platform::err::ObjectNotSet); });
     routines_.Add("Strict", [](screen::RoutineCall& call) {
         if (call.arguments.size() != 1) throw screen::RoutineRefused("takes one argument");

@@ -68,11 +68,6 @@ void FakeScreen::WireEvents() {
 }
 
 void FakeScreen::AddRoutines() {
-    routines_.Add("Add", [](screen::RoutineCall& call) {
-        double sum = 0;
-        for (const auto& argument : call.arguments) sum += platform::Val(argument);
-        call.result = platform::Value(sum);
-    });
     routines_.Add("Ask", [this](screen::RoutineCall& call) {
         call.result = platform::Value(services_.messages.AskMessage("Save now?", 4));
     });

@@ -2,8 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <stdexcept>
-
 #include "platform/convert.h"
 #include "platform/runtime_error.h"
 
@@ -37,39 +35,39 @@ FakeScreen::FakeScreen(host_services::HostServices services) : services_(std::mo
 }
 
 void FakeScreen::WireEvents() {
-    txtCustomer.GotFocus.Connect([this] { Log("txtCustomer.GotFocus"); });
-    txtCustomer.LostFocus.Connect([this] { Log("txtCustomer.LostFocus"); });
+    // Each handler logs its event's name and the arguments it was raised with.
+    auto logs = [this](std::string name) {
+        return [this, name](const auto&... args) {
+            std::string event = name;
+            ((event += fmt::format(" {}", args)), ...);
+            Log(event);
+        };
+    };
+    txtCustomer.GotFocus.Connect(logs("txtCustomer.GotFocus"));
+    txtCustomer.LostFocus.Connect(logs("txtCustomer.LostFocus"));
     txtCustomer.Change.Connect([this] { Log("txtCustomer.Change " + txtCustomer.Text()); });
     txtCustomer.KeyDown.Connect([this](int& code, int shift) {
         Log(fmt::format("txtCustomer.KeyDown {} {}", code, shift));
         if (code == swallowInKeyDown) code = 0;
     });
-    txtCustomer.KeyPress.Connect([this](int& ascii) { Log(fmt::format("txtCustomer.KeyPress {}", ascii)); });
-    txtCustomer.KeyUp.Connect(
-        [this](int& code, int shift) { Log(fmt::format("txtCustomer.KeyUp {} {}", code, shift)); });
-    cmdSave.GotFocus.Connect([this] { Log("cmdSave.GotFocus"); });
-    cmdSave.Click.Connect([this] { Log("cmdSave.Click"); });
-    lblTitle.Click.Connect([this] { Log("lblTitle.Click"); });
+    txtCustomer.KeyPress.Connect(logs("txtCustomer.KeyPress"));
+    txtCustomer.KeyUp.Connect(logs("txtCustomer.KeyUp"));
+    cmdSave.GotFocus.Connect(logs("cmdSave.GotFocus"));
+    cmdSave.Click.Connect(logs("cmdSave.Click"));
+    lblTitle.Click.Connect(logs("lblTitle.Click"));
     lstSO.ItemCheck.Connect(
         [this](int row) { Log(fmt::format("lstSO.ItemCheck {} {}", row, lstSO.Item(row).Checked)); });
-    lstSO.ItemClick.Connect([this](int row) { Log(fmt::format("lstSO.ItemClick {}", row)); });
+    lstSO.ItemClick.Connect(logs("lstSO.ItemClick"));
     lstUOM.Click.Connect([this] { Log(fmt::format("lstUOM.Click {}", lstUOM.ListIndex())); });
-    lstUOM.DblClick.Connect([this] { Log("lstUOM.DblClick"); });
+    lstUOM.DblClick.Connect(logs("lstUOM.DblClick"));
     cboType.Click.Connect([this] { Log("cboType.Click " + cboType.Text()); });
     dtFromDate.Change.Connect([this] { Log("dtFromDate.Change " + platform::DateToIso(dtFromDate.Value)); });
-    grid.KeyCode.Connect([this](int& code, int shift) { Log(fmt::format("grid.KeyCode {} {}", code, shift)); });
-    grid.Change.Connect([this](int col) { Log(fmt::format("grid.Change {} {}", col, grid.EditText())); });
-    grid.RowColChange.Connect([this](int row, int col) { Log(fmt::format("grid.RowColChange {} {}", row, col)); });
-    grid.AfterColUpdate.Connect(
-        [this](int row, int col, bool&) { Log(fmt::format("grid.AfterColUpdate {} {}", row, col)); });
+    grid.KeyCode.Connect(logs("grid.KeyCode"));
+    grid.RowColChange.Connect(logs("grid.RowColChange"));
+    grid.AfterColUpdate.Connect(logs("grid.AfterColUpdate"));
 }
 
 void FakeScreen::AddRoutines() {
-    routines_.Add("Add", [](screen::RoutineCall& call) {
-        double sum = 0;
-        for (const auto& argument : call.arguments) sum += platform::Val(argument);
-        call.result = platform::Value(sum);
-    });
     routines_.Add("Ask", [this](screen::RoutineCall& call) {
         call.result = platform::Value(services_.messages.AskMessage("Save now?", 4));
     });
@@ -86,9 +84,6 @@ void FakeScreen::AddRoutines() {
     routines_.Add("Query", [this](screen::RoutineCall& call) {
         auto rows = services_.global.GetConnection().Execute(call.arguments.at(0));
         call.result = rows->Fields(0);
-    });
-    routines_.Add("OCGEnabled", [this](screen::RoutineCall& call) {
-        call.result = platform::Value(services_.global.GetOCGEnabled());
     });
     routines_.Add("Broken", [](screen::RoutineCall&) { throw platform::RuntimeError(platform::err::ObjectNotSet); });
     routines_.Add("Strict", [](screen::RoutineCall& call) {
@@ -129,36 +124,16 @@ bool FakeScreen::Close() {
     return false;
 }
 
-namespace {
-
-class FakeOpener : public ScreenOpener {
-public:
-    explicit FakeOpener(FakeOpenings& openings) : openings_(openings) {}
-
-    screen::ScreenForm* OpenDispatch(host::PlainHost& host, platform::Date serverDate, long mode,
-                                     platform::Date alertDate) override {
-        openings_.mode = mode;
-        openings_.serverDate = serverDate;
-        openings_.alertDate = alertDate;
-        auto screen = std::make_unique<FakeScreen>(host.Services());
-        if (openings_.arrange) openings_.arrange(*screen);
-        // As a form does while it opens: focus is set before the host can listen.
-        screen->MoveFocus(screen->txtCustomer);
-        openings_.screens.push_back(std::move(screen));
-        return openings_.screens.back().get();
-    }
-
-    screen::ScreenForm* OpenCForm(host::PlainHost&, platform::Date serverDate) override {
-        openings_.serverDate = serverDate;
-        return nullptr;
-    }
-
-private:
-    FakeOpenings& openings_;
-};
-
-}  // namespace
-
-std::unique_ptr<ScreenOpener> MakeFakeOpener(FakeOpenings& openings) { return std::make_unique<FakeOpener>(openings); }
+screen::ScreenForm* FakeOpener::OpenDispatch(host::PlainHost& host, platform::Date serverDate, long mode,
+                                             platform::Date alertDate) {
+    openings.mode = mode;
+    openings.serverDate = serverDate;
+    openings.alertDate = alertDate;
+    auto screen = std::make_unique<FakeScreen>(host.Services());
+    if (openings.arrange) openings.arrange(*screen);
+    // As a form does while it opens: focus is set before the host can listen.
+    screen->MoveFocus(screen->txtCustomer);
+    return openings.screens.emplace_back(std::move(screen)).get();
+}
 
 }  // namespace session::testing

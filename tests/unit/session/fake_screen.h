@@ -73,10 +73,18 @@ struct FakeOpenings {
     long mode = 0;
     platform::Date serverDate, alertDate;
     std::function<void(FakeScreen&)> arrange;  // run on each new screen before it opens
-    FakeScreen* Last() { return screens.empty() ? nullptr : screens.back().get(); }
 };
 
-std::unique_ptr<ScreenOpener> MakeFakeOpener(FakeOpenings& openings);
+struct FakeOpener : ScreenOpener {
+    explicit FakeOpener(FakeOpenings& openings) : openings(openings) {}
+    screen::ScreenForm* OpenDispatch(host::PlainHost& host, platform::Date serverDate, long mode,
+                                     platform::Date alertDate) override;
+    screen::ScreenForm* OpenCForm(host::PlainHost&, platform::Date serverDate) override {
+        openings.serverDate = serverDate;
+        return nullptr;
+    }
+    FakeOpenings& openings;
+};
 
 struct Outcome {
     int status = -1;
@@ -89,11 +97,11 @@ protected:
         std::ostringstream out, err;
         SessionOptions options;
         options.traceSql = traceSql;
-        options.makeOpener = [this] { return MakeFakeOpener(openings); };
+        options.makeOpener = [this] { return std::make_unique<FakeOpener>(openings); };
         int status = SessionRunner(out, err, std::move(options)).Run(script);
         return {status, out.str(), err.str()};
     }
-    FakeScreen& Screen() { return *openings.Last(); }
+    FakeScreen& Screen() { return *openings.screens.back(); }
 
     FakeOpenings openings;
 };
@@ -103,12 +111,6 @@ inline const std::string kOpen = "database empty\nopen dispatch 2 2026-11-22\n";
 
 inline ::testing::Matcher<const std::string&> HasLine(const std::string& line) {
     return ::testing::HasSubstr("\n" + line + "\n");
-}
-
-inline std::size_t CountOf(const std::string& text, const std::string& needle) {
-    std::size_t count = 0;
-    for (auto pos = text.find(needle); pos != std::string::npos; pos = text.find(needle, pos + 1)) ++count;
-    return count;
 }
 
 }  // namespace session::testing

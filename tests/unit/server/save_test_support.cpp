@@ -85,24 +85,14 @@ std::string SaveDatabase::NoteRows(const std::string& columns, long long dispatc
 }
 
 long long SaveDatabase::NewNote(const std::string& customer, EmbeddedConnection* on) {
-    const platform::Parameter blank{"", VarChar};
-    const auto results = (on ? *on : *db_)
-                             .CallProcedure("sp_Save_DispatchAbstract", {blank,
-                                                                         {testkit::LocalNow(), Date},
-                                                                         {customer, VarChar},
-                                                                         blank,
-                                                                         blank,
-                                                                         {2, Integer},
-                                                                         blank,
-                                                                         blank,
-                                                                         blank,
-                                                                         blank,
-                                                                         blank,
-                                                                         {0, Integer},
-                                                                         {0, Integer}});
-    return FirstAnswer(results).AsInteger();
+    // Everything blank but the date, the customer, an open status and no salesman or beat.
+    platform::ParameterList parameters(13, platform::Parameter{"", VarChar});
+    parameters[1] = {testkit::LocalNow(), Date};
+    parameters[2] = {customer, VarChar};
+    parameters[5] = {2, Integer};
+    parameters[11] = parameters[12] = {0, Integer};
+    return FirstAnswer((on ? *on : *db_).CallProcedure("sp_Save_DispatchAbstract", parameters)).AsInteger();
 }
-
 long long SaveDatabase::StoreLine(const Line& line, bool customerPrice, bool longList, EmbeddedConnection* on) {
     const char* name = customerPrice ? "sp_Save_dispatchDetail_csp_UOM_QAX" : "sp_Save_dispatchdetail_UOM_QAX";
     const platform::Value answer =

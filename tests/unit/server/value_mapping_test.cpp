@@ -94,13 +94,5 @@ TEST_F(ValueMapping, BuiltInFunctionsGiveTheServersAnswers) {
     EXPECT_NEAR(now.AsDate().serial, testkit::LocalNow().serial, 5.0 / (24 * 60));
 }
 
-TEST(DateTimeText, IsTheStoredFormWithTheTimeAlwaysWritten) {
-    EXPECT_EQ(DateTimeText(platform::DateSerial(2026, 3, 4)), "2026-03-04 00:00:00");
-    EXPECT_EQ(DateTimeText(platform::DateTime(1999, 12, 31, 23, 59, 59)), "1999-12-31 23:59:59");
-    EXPECT_TRUE(LooksLikeDateTimeText("2026-03-04 00:00:00"));
-    EXPECT_FALSE(LooksLikeDateTimeText("2026-03-04"));
-    EXPECT_FALSE(LooksLikeDateTimeText("2026/03/04 00:00:00"));
-}
-
 }  // namespace
 }  // namespace server

@@ -18,20 +18,13 @@ using platform::adtype::VarChar;
 // The abstract's parameters as the screen sends them for a note from sales
 // confirmation 1 of Ravi Stores; the amendment's old document number goes second.
 platform::ParameterList AbstractParameters(bool withGroup, const std::string* oldReference = nullptr) {
-    platform::ParameterList list{{"1", VarChar}};
-    if (oldReference) list.push_back({*oldReference, VarChar});
-    list.insert(list.end(), {{platform::DateTime(2024, 3, 1, 10, 45, 0), Date},
-                             {"C005", VarChar},
-                             {"12 Gandhi Road", VarChar},
-                             {"Godown 3", VarChar},
-                             {1, Integer},
-                             {"SC101", VarChar},
-                             {"Memo one", VarChar},
-                             {"Memo two", VarChar},
-                             {"", VarChar},
-                             {"TN/DN/43", VarChar},
-                             {1, Integer},
-                             {1, Integer}});
+    const platform::Parameter day{platform::DateTime(2024, 3, 1, 10, 45, 0), Date};
+    platform::ParameterList list{
+        {"1", VarChar},        day,           {"C005", VarChar},     {"12 Gandhi Road", VarChar},
+        {"Godown 3", VarChar}, {1, Integer},  {"SC101", VarChar},    {"Memo one", VarChar},
+        {"Memo two", VarChar}, {"", VarChar}, {"TN/DN/43", VarChar}, {1, Integer},
+        {1, Integer}};
+    if (oldReference) list.insert(list.begin() + 1, {*oldReference, VarChar});
     if (withGroup) list.push_back({"1,2", VarChar});
     return list;
 }

@@ -13,39 +13,30 @@ using platform::adtype::VarChar;
 
 platform::ParameterList Line::Parameters(bool customerPrice, bool longList) const {
     const platform::Value day = dispatchDay.IsEmpty() ? platform::Value(SaveDatabase::Today()) : dispatchDay;
-    platform::ParameterList list{{dispatchID, Integer},
-                                 {item, VarChar},
-                                 {batch, VarChar},
-                                 {originalPrice, Double},
-                                 {baseQuantity, Double},
-                                 {batchTrack, Integer},
-                                 {trackInventory, Integer},
-                                 {customerCategory, Integer},
-                                 {freeItem, Integer},
-                                 {freeRow, Integer},
-                                 {day, Date},
-                                 {datedPosting, Integer},
-                                 {unit, Integer},
-                                 {unitQuantity, Double},
-                                 {unitPrice, Double},
-                                 {rowNumber, Integer},
-                                 {otherGroupItem, Integer}};
+    platform::ParameterList list{
+        {dispatchID, Integer},  {item, VarChar},       {batch, VarChar},          {originalPrice, Double},
+        {baseQuantity, Double}, {batchTrack, Integer}, {trackInventory, Integer}, {customerCategory, Integer}};
+    list.insert(list.end(),
+                {{freeItem, Integer}, {freeRow, Integer}, {day, Date}, {datedPosting, Integer}, {unit, Integer}});
+    list.insert(list.end(),
+                {{unitQuantity, Double}, {unitPrice, Double}, {rowNumber, Integer}, {otherGroupItem, Integer}});
     // Only the customer-price procedure is sent the customer's category.
     if (!customerPrice) list.erase(list.begin() + 7);
     if (!longList) {
         list.insert(list.end(), {{schemeID, Integer}, {freeSerial, VarChar}});
         return list;
     }
-    list.insert(list.end(), {{0, Integer},
-                             {freeSerial, VarChar},
-                             {schemeIDs, VarChar},
-                             {splCatSchemeIDs, VarChar},
-                             {splCatScheme, Integer},
-                             {splCatSerial, VarChar},
-                             {schemeIDs, VarChar},
-                             {multiScheme, VarChar},
-                             {splCatSchemeIDs, VarChar},
-                             {multiSplCatScheme, VarChar}});
+    const platform::ParameterList schemes{{0, Integer},
+                                          {freeSerial, VarChar},
+                                          {schemeIDs, VarChar},
+                                          {splCatSchemeIDs, VarChar},
+                                          {splCatScheme, Integer},
+                                          {splCatSerial, VarChar},
+                                          {schemeIDs, VarChar},
+                                          {multiScheme, VarChar},
+                                          {splCatSchemeIDs, VarChar},
+                                          {multiSplCatScheme, VarChar}};
+    list.insert(list.end(), schemes.begin(), schemes.end());
     return list;
 }
 

@@ -42,9 +42,9 @@ TEST_F(SaveAbstract, StoresTheNoteAndSpendsTheNextNumberOfTheSerial) {
                    "OriginalReference, Memo1, Memo2, Memo3, DocReference, SalesmanID, BeatID, GroupID, UserName "
                    "FROM DispatchAbstract WHERE DispatchID = 10"),
               "D:2024-03-01 10:45:00|C005|12 Gandhi Road|Godown 3|1|1|SC101||Memo one|Memo two||TN/DN/43|1|1|1,2|");
-    EXPECT_EQ(Count("SELECT COUNT(*) FROM DispatchAbstract WHERE DispatchID = 10 AND "
-                    "CreationTime >= datetime('now', 'localtime', '-1 minute')"),
-              1);
+    EXPECT_EQ(Text("SELECT COUNT(*) FROM DispatchAbstract WHERE DispatchID = 10 AND "
+                   "CreationTime >= datetime('now', 'localtime', '-1 minute')"),
+              "1");
 
     // A note of all categories has no group; the proposal moves on with the serial.
     EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract", AbstractParameters(false)).back()), "11|51");
@@ -56,7 +56,7 @@ TEST_F(SaveAbstract, StoresTheNoteAndSpendsTheNextNumberOfTheSerial) {
     EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract", AbstractParameters(true)).back()), "12|52");
     db().RollbackTrans();
     EXPECT_EQ(Text(kLastDispatchNumber), "51");
-    EXPECT_EQ(Count("SELECT COUNT(*) FROM DispatchAbstract"), 11);
+    EXPECT_EQ(Text("SELECT COUNT(*) FROM DispatchAbstract"), "11");
 }
 
 TEST_F(SaveAbstract, TheReplacementOfAnAmendedNoteKeepsTheOldNumber) {
@@ -91,7 +91,7 @@ TEST_F(SaveAbstract, RefusesABadNoteAndSpendsNothing) {
         "Procedure or function 'sp_Save_DispatchAbstract_Amend' expects parameter '@BeatID', which was not supplied.");
 
     EXPECT_EQ(Text(kLastDispatchNumber), "49");
-    EXPECT_EQ(Count("SELECT COUNT(*) FROM DispatchAbstract"), 9);
+    EXPECT_EQ(Text("SELECT COUNT(*) FROM DispatchAbstract"), "9");
 }
 
 class TransactionSerial : public SaveDatabase {

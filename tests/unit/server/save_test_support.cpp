@@ -65,11 +65,6 @@ std::string SaveDatabase::Refusal(const std::string& name, const platform::Param
 
 std::string SaveDatabase::Text(const std::string& sql) { return testkit::RowsText(db_->ExecuteNative(sql)); }
 
-long long SaveDatabase::Count(const std::string& sql) {
-    const platform::ResultSet result = db_->ExecuteNative(sql);
-    return result.rows.empty() ? 0 : static_cast<long long>(platform::ToNumber(result.rows.front().front()));
-}
-
 std::string SaveDatabase::NoteRows(const std::string& columns, long long dispatchID, const std::string& rest) {
     return Text("SELECT " + columns + " FROM DispatchDetail WHERE DispatchID = " + std::to_string(dispatchID) + " " +
                 rest);

@@ -15,9 +15,8 @@ class Transactions : public ::testing::Test {
 protected:
     Transactions() {
         first_ = testkit::MakeSmallDatabase(folder_.File("shared.db"), registry_);
-        EmbeddedConnection::Options impatient;
-        impatient.busyTimeoutMs = 200;
-        second_ = std::make_shared<EmbeddedConnection>(folder_.File("shared.db"), impatient, registry_);
+        second_ = std::make_shared<EmbeddedConnection>(folder_.File("shared.db"),
+                                                       EmbeddedConnection::Options{.busyTimeoutMs = 200}, registry_);
     }
 
     std::string Stock(EmbeddedConnection& connection) {

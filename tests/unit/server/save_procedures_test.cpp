@@ -66,9 +66,6 @@ TEST_F(SaveAbstract, TheReplacementOfAnAmendedNoteKeepsTheOldNumber) {
     EXPECT_EQ(Text("SELECT OriginalReference, RefNumber, NewRefNumber, DocReference, GroupID FROM DispatchAbstract "
                    "WHERE DispatchID = 10"),
               "45|1|SC101|TN/DN/43|1,2");
-    EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract_Amend", AbstractParameters(false, &old)).back()),
-              "11|51");
-    EXPECT_EQ(Text("SELECT GroupID FROM DispatchAbstract WHERE DispatchID = 11"), "-1");
 }
 
 TEST_F(SaveAbstract, RefusesABadNoteAndSpendsNothing) {

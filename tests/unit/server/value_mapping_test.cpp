@@ -56,8 +56,6 @@ TEST_F(ValueMapping, BoundValuesGoInAsTheDatabaseKeepsThem) {
     EXPECT_EQ(RowsText(connection_->ExecuteNative(
                   "SELECT DispatchDate, typeof(DispatchDate), Closed FROM DispatchAbstract WHERE DispatchID = 7")),
               "D:2026-12-01 08:05:09|text|1");
-    EXPECT_EQ(First("Select DispatchDate From DispatchAbstract Where DispatchID = 7"),
-              platform::Value(platform::DateTime(2026, 12, 1, 8, 5, 9)));
     // The date form sorts and compares as text the way the server compared dates.
     EXPECT_EQ(RowsText(connection_->Execute(
                   "Select DispatchID From DispatchAbstract Where DispatchDate >= '2026-11-22 10:00:00'"

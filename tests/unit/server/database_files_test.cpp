@@ -7,6 +7,7 @@
 
 #include "platform/runtime_error.h"
 #include "server/database_files.h"
+#include "server/schema.h"
 #include "server_test_support.h"
 
 namespace server {
@@ -29,9 +30,19 @@ TEST(DatabaseFiles, AMadeDatabaseOpensWithItsSettings) {
     EXPECT_TRUE(IsDispatchDatabase(*connection));
     EXPECT_EQ(RowsText(connection->ExecuteNative("PRAGMA journal_mode")), "wal");
     EXPECT_EQ(RowsText(connection->ExecuteNative("PRAGMA foreign_keys")), "1");
-    EXPECT_EQ(RowsText(connection->ExecuteNative("PRAGMA busy_timeout")), "5000");
     platform::ConnectionPtr plain = OpenDatabase(path);
     EXPECT_EQ(RowsText(plain->Execute("Select count(*) From Customer")), "2");
+}
+
+TEST(DatabaseFiles, TheSchemaScriptRunsInsideTheCallersTransaction) {
+    testkit::ScratchFolder folder;
+    EmbeddedConnection::Options create;
+    create.create = true;
+    EmbeddedConnection db(folder.File("schema.db"), create);
+    db.BeginTrans();
+    db.ExecuteScript(SchemaScript());
+    db.RollbackTrans();  // refused, were the transaction already ended by a COMMIT in the script
+    EXPECT_EQ(RowsText(db.ExecuteNative("SELECT count(*) FROM sqlite_master")), "0");
 }
 
 TEST(DatabaseFiles, RefusesWhatIsNotOursAndLeavesItAlone) {

@@ -1,8 +1,6 @@
 // The two procedures a printed note is made from: its heading, named by the number
 // the user was told, and its lines as they were saved. (A line drawn from two batches
 // prints as its two stored rows; save_stock_test shows how they are stored.)
-#include <string>
-
 #include "save_test_support.h"
 
 namespace server::save_test {
@@ -12,19 +10,10 @@ using platform::adtype::Integer;
 
 using PrintDispatch = SaveDatabase;
 
-std::string Columns(const platform::ResultSet& result) {
-    std::string text;
-    for (const auto& column : result.columns) text += (text.empty() ? "" : ", ") + column;
-    return text;
-}
-
 TEST_F(PrintDispatch, PrintsTheStoredNoteWithItsFreeLinesWorthNothing) {
     // Note 9 of Anand Stores: two cases, ten boxes and 48 pieces sold, two boxes free.
     const auto heading = Call("sp_print_DispatchAbstract", {{9, Integer}});
     ASSERT_EQ(heading.size(), 1u);
-    EXPECT_EQ(Columns(heading.front()),
-              "Dispatch No, Date, Customer ID, Customer, Billing Address, Shipping Address, Salesman, Beat, Reference, "
-              "Doc Reference, Memo 1, Memo 2, Memo 3, Total Value");
     const std::string today = Text("SELECT date('now', 'localtime')");
     EXPECT_EQ(testkit::RowsText(heading.front()),
               "DN49|D:" + today +
@@ -33,8 +22,6 @@ TEST_F(PrintDispatch, PrintsTheStoredNoteWithItsFreeLinesWorthNothing) {
 
     const auto lines = Call("sp_print_DispatchDetail", {{9, Integer}});
     ASSERT_EQ(lines.size(), 1u);
-    EXPECT_EQ(Columns(lines.front()),
-              "Item Code, Item Name, Batch, Unit, Quantity, Unit Price, Base Quantity, Value, Free");
     EXPECT_EQ(testkit::RowsText(lines.front()),
               "FD001|Marie Biscuit 100g|MB2401|CASE|2r|2160r|480r|4320r|;"
               "FD002|Cream Biscuit 75g|CB101|BOX|10r|156r|120r|1560r|;"

@@ -251,7 +251,7 @@ TEST_F(SaveDetail, RefusesWhatNoLineCanBeAndChangesNothing) {
               std::string::npos);
 
     EXPECT_EQ(Batches("1, 2, 4"), "1=2400.0 2=1200.0 4=480.0");
-    EXPECT_EQ(Count("SELECT COUNT(*) FROM DispatchDetail WHERE DispatchID NOT BETWEEN 1 AND 9"), 0);
+    EXPECT_EQ(Text("SELECT COUNT(*) FROM DispatchDetail WHERE DispatchID NOT BETWEEN 1 AND 9"), "0");
 }
 
 }  // namespace

@@ -13,39 +13,30 @@ using platform::adtype::VarChar;
 
 platform::ParameterList Line::Parameters(bool customerPrice, bool longList) const {
     const platform::Value day = dispatchDay.IsEmpty() ? platform::Value(SaveDatabase::Today()) : dispatchDay;
-    platform::ParameterList list{{dispatchID, Integer},
-                                 {item, VarChar},
-                                 {batch, VarChar},
-                                 {originalPrice, Double},
-                                 {baseQuantity, Double},
-                                 {batchTrack, Integer},
-                                 {trackInventory, Integer},
-                                 {customerCategory, Integer},
-                                 {freeItem, Integer},
-                                 {freeRow, Integer},
-                                 {day, Date},
-                                 {datedPosting, Integer},
-                                 {unit, Integer},
-                                 {unitQuantity, Double},
-                                 {unitPrice, Double},
-                                 {rowNumber, Integer},
-                                 {otherGroupItem, Integer}};
+    platform::ParameterList list{
+        {dispatchID, Integer},  {item, VarChar},       {batch, VarChar},          {originalPrice, Double},
+        {baseQuantity, Double}, {batchTrack, Integer}, {trackInventory, Integer}, {customerCategory, Integer}};
+    list.insert(list.end(),
+                {{freeItem, Integer}, {freeRow, Integer}, {day, Date}, {datedPosting, Integer}, {unit, Integer}});
+    list.insert(list.end(),
+                {{unitQuantity, Double}, {unitPrice, Double}, {rowNumber, Integer}, {otherGroupItem, Integer}});
     // Only the customer-price procedure is sent the customer's category.
     if (!customerPrice) list.erase(list.begin() + 7);
     if (!longList) {
         list.insert(list.end(), {{schemeID, Integer}, {freeSerial, VarChar}});
         return list;
     }
-    list.insert(list.end(), {{0, Integer},
-                             {freeSerial, VarChar},
-                             {schemeIDs, VarChar},
-                             {splCatSchemeIDs, VarChar},
-                             {splCatScheme, Integer},
-                             {splCatSerial, VarChar},
-                             {schemeIDs, VarChar},
-                             {multiScheme, VarChar},
-                             {splCatSchemeIDs, VarChar},
-                             {multiSplCatScheme, VarChar}});
+    const platform::ParameterList schemes{{0, Integer},
+                                          {freeSerial, VarChar},
+                                          {schemeIDs, VarChar},
+                                          {splCatSchemeIDs, VarChar},
+                                          {splCatScheme, Integer},
+                                          {splCatSerial, VarChar},
+                                          {schemeIDs, VarChar},
+                                          {multiScheme, VarChar},
+                                          {splCatSchemeIDs, VarChar},
+                                          {multiSplCatScheme, VarChar}};
+    list.insert(list.end(), schemes.begin(), schemes.end());
     return list;
 }
 
@@ -74,35 +65,20 @@ std::string SaveDatabase::Refusal(const std::string& name, const platform::Param
 
 std::string SaveDatabase::Text(const std::string& sql) { return testkit::RowsText(db_->ExecuteNative(sql)); }
 
-long long SaveDatabase::Count(const std::string& sql) {
-    const platform::ResultSet result = db_->ExecuteNative(sql);
-    return result.rows.empty() ? 0 : static_cast<long long>(platform::ToNumber(result.rows.front().front()));
-}
-
 std::string SaveDatabase::NoteRows(const std::string& columns, long long dispatchID, const std::string& rest) {
     return Text("SELECT " + columns + " FROM DispatchDetail WHERE DispatchID = " + std::to_string(dispatchID) + " " +
                 rest);
 }
 
 long long SaveDatabase::NewNote(const std::string& customer, EmbeddedConnection* on) {
-    const platform::Parameter blank{"", VarChar};
-    const auto results = (on ? *on : *db_)
-                             .CallProcedure("sp_Save_DispatchAbstract", {blank,
-                                                                         {testkit::LocalNow(), Date},
-                                                                         {customer, VarChar},
-                                                                         blank,
-                                                                         blank,
-                                                                         {2, Integer},
-                                                                         blank,
-                                                                         blank,
-                                                                         blank,
-                                                                         blank,
-                                                                         blank,
-                                                                         {0, Integer},
-                                                                         {0, Integer}});
-    return FirstAnswer(results).AsInteger();
+    // Everything blank but the date, the customer, an open status and no salesman or beat.
+    platform::ParameterList parameters(13, platform::Parameter{"", VarChar});
+    parameters[1] = {testkit::LocalNow(), Date};
+    parameters[2] = {customer, VarChar};
+    parameters[5] = {2, Integer};
+    parameters[11] = parameters[12] = {0, Integer};
+    return FirstAnswer((on ? *on : *db_).CallProcedure("sp_Save_DispatchAbstract", parameters)).AsInteger();
 }
-
 long long SaveDatabase::StoreLine(const Line& line, bool customerPrice, bool longList, EmbeddedConnection* on) {
     const char* name = customerPrice ? "sp_Save_dispatchDetail_csp_UOM_QAX" : "sp_Save_dispatchdetail_UOM_QAX";
     const platform::Value answer =

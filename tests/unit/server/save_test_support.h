@@ -64,7 +64,6 @@ public:
 
     // SQLite's own query, as "a|b;c|d" (see testkit::RowsText).
     std::string Text(const std::string& sql);
-    long long Count(const std::string& sql);
 
     // A new note of the customer through sp_Save_DispatchAbstract; its DispatchID. Both
     // calls go through the test's own connection unless given another.

@@ -23,8 +23,6 @@ TEST_F(FormSpine, EachModeTitlesItsFrame) {
         EXPECT_EQ(f.FieldText("objLink"), titles[mode - 1]) << "mode " << mode;
         f.Close();
     }
-    Zuro_frmDispatch_Dispatch& amend = Open(7);
-    EXPECT_EQ(amend.cmdContinue.Caption, "&Amend");
 }
 
 TEST_F(FormSpine, AnAlertMovesOnlyTheFromDate) {

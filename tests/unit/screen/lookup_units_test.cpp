@@ -35,54 +35,43 @@ protected:
     }
 };
 
-// Loading a row's units: a new row takes the sales unit, the ladder and the price in
-// that unit; a stored unit is kept and gives the rate, and the ladder is written only
-// for a row without a unit; a free row keeps price zero; an unknown item leaves the row
-// and an empty list.
-TEST_F(UnitsOfMeasure, LoadingARowsUnits) {
-    using namespace grid;
-    struct Case {
-        std::string code, name, price;
-        std::vector<std::pair<int, std::string>> cells;
-        const char* entries;
-        std::vector<int> cols;
-        std::string after;
-        double rate;
-    };
-    const std::vector<int> all = {colUOMID, colUOM, colUOMDesc, colSalePrice};
-    const std::vector<Case> cases = {
-        {"FD001",
-         "Marie Biscuit 100g",
-         "9",
-         {},
-         "Multiple=0|PCS=1|BOX=2|CASE=3",
-         all,
-         "2|BOX|PCS=1 BOX=24 CASE=240 |216",
-         24},
-        {"FD001", "Marie Biscuit 100g", "9", {{colUOMID, "3"}, {colUOM, "CASE"}}, nullptr, all, "3|CASE||2160", 240},
-        {"FD002",
-         "Cream Biscuit 75g",
-         "12",
-         {{colFreeItem, "1"}, {colFreeRow, "1"}, {colSalePrice, "0"}},
-         nullptr,
-         {colUOM, colSalePrice},
-         "BOX|0",
-         0},
-        {"XX999", "", "5", {}, "", {colUOMID, colSalePrice}, "|", 0},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.code + " " + c.after);
-        Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, c.code, c.name, c.price);
-        f.lstUOM.AddItem("stale", 9);
-        for (const auto& [col, text] : c.cells) f.DTFlexDispatch.SetCell(1, col, text);
-        f.LoadItemUOM(c.code, 1);
-        if (c.entries) EXPECT_EQ(Entries(), c.entries);
-        std::string cells;
-        for (std::size_t i = 0; i < c.cols.size(); ++i) cells += (i ? "|" : "") + Cell(c.cols[i]);
-        EXPECT_EQ(cells, c.after);
-        if (c.rate) EXPECT_DOUBLE_EQ(f.dUOMRate, c.rate);
-        EXPECT_EQ(Errors(), 0) << ErrorLines();
-    }
+TEST_F(UnitsOfMeasure, ANewRowTakesTheSalesUnitTheLadderAndThePriceInThatUnit) {
+    Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "FD001", "Marie Biscuit 100g", "9");
+    f.LoadItemUOM("FD001", 1);
+    EXPECT_EQ(Entries(), "Multiple=0|PCS=1|BOX=2|CASE=3");
+    EXPECT_EQ(Cells({grid::colUOMID, grid::colUOM, grid::colUOMDesc}), "2|BOX|PCS=1 BOX=24 CASE=240 ");
+    EXPECT_DOUBLE_EQ(f.dUOMRate, 24);
+    EXPECT_EQ(Cell(grid::colSalePrice), "216");
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(UnitsOfMeasure, AStoredUnitIsKeptAndGivesTheRate) {
+    Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "FD001", "Marie Biscuit 100g", "9");
+    f.DTFlexDispatch.SetCell(1, grid::colUOMID, "3");
+    f.DTFlexDispatch.SetCell(1, grid::colUOM, "CASE");
+    f.LoadItemUOM("FD001", 1);
+    EXPECT_EQ(Cells({grid::colUOMID, grid::colUOM}), "3|CASE");
+    EXPECT_EQ(Cell(grid::colUOMDesc), "");  // the ladder is written only for a row without a unit
+    EXPECT_DOUBLE_EQ(f.dUOMRate, 240);
+    EXPECT_EQ(Cell(grid::colSalePrice), "2160");
+}
+
+TEST_F(UnitsOfMeasure, AFreeRowKeepsPriceZeroThroughAReload) {
+    Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "FD002", "Cream Biscuit 75g", "12");
+    f.DTFlexDispatch.SetCell(1, grid::colFreeItem, "1");
+    f.DTFlexDispatch.SetCell(1, grid::colFreeRow, "1");
+    f.DTFlexDispatch.SetCell(1, grid::colSalePrice, "0");
+    f.LoadItemUOM("FD002", 1);
+    EXPECT_EQ(Cells({grid::colUOM, grid::colSalePrice}), "BOX|0");
+}
+
+TEST_F(UnitsOfMeasure, AnUnknownItemLeavesTheRowAndAnEmptyList) {
+    Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "XX999", "", "5");
+    f.lstUOM.AddItem("stale", 9);
+    f.LoadItemUOM("XX999", 1);
+    EXPECT_EQ(f.lstUOM.ListCount(), 0);
+    EXPECT_EQ(Cells({grid::colUOMID, grid::colSalePrice}), "|");
+    EXPECT_EQ(Errors(), 0);
 }
 
 TEST_F(UnitsOfMeasure, TheSlashWalkGoesUpTheLadderThenToMultipleAndRoundAgain) {

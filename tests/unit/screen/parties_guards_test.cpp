@@ -19,26 +19,31 @@ class PartyGuards : public PartiesTest {
 protected:
     // Arun Kumar on Anna Nagar selling Foods, with one line in the grid, as an
     // earlier Enter left it.
-    void FoodsNoteWithALine() {
+    screen::Zuro_frmDispatch_Dispatch& FoodsNoteWithALine() {
         auto& f = Form();
         Pick(f.txtSalesman, "Arun Kumar", "1");
         Pick(f.txtBeat, "Anna Nagar", "1");
         Pick(f.txtCategory, "Foods", "1");
         f.LoadPreviousValues();
         AddGridLine("FD001", "Marie Biscuit 100g");
+        return f;
+    }
+    // Bala Murugan, whose type sells Personal Care alone, put over the Foods note, the
+    // user's answer queued and the grid's check run; whether it refused him.
+    bool BalaOverFoods(int answer, long filledBy) {
+        auto& f = FoodsNoteWithALine();
+        Pick(f.txtSalesman, "Bala Murugan", "2");
+        Answer(answer);
+        bool bRefused = false;
+        f.CheckForGridItem(filledBy, bRefused);
+        return bRefused;
     }
 };
 
 TEST_F(PartyGuards, ANewSalesmanWhoseTypeDoesNotSellTheGroupAsksAndNoBringsTheOldOneBack) {
-    FoodsNoteWithALine();
+    EXPECT_TRUE(BalaOverFoods(AnswerNo, 0));
     auto& f = Form();
-    Pick(f.txtSalesman, "Bala Murugan", "2");
-    Answer(AnswerNo);
-    bool bRefused = false;
-    f.CheckForGridItem(0, bRefused);
-
     EXPECT_EQ(Messages(), std::vector<std::string>{kMessage10});
-    EXPECT_TRUE(bRefused);
     EXPECT_EQ(f.txtSalesman.Text(), "Arun Kumar");
     EXPECT_EQ(f.txtSalesman.Tag, "1");
     EXPECT_EQ(GridLines(), 1);
@@ -46,39 +51,25 @@ TEST_F(PartyGuards, ANewSalesmanWhoseTypeDoesNotSellTheGroupAsksAndNoBringsTheOl
 }
 
 TEST_F(PartyGuards, AnsweringNoToASalesmanTheProgramFilledEmptiesTheSalesman) {
-    FoodsNoteWithALine();
+    EXPECT_TRUE(BalaOverFoods(AnswerNo, 2));
     auto& f = Form();
-    Pick(f.txtSalesman, "Bala Murugan", "2");
-    Answer(AnswerNo);
-    bool bRefused = false;
-    f.CheckForGridItem(2, bRefused);
-
-    EXPECT_TRUE(bRefused);
     EXPECT_EQ(f.txtSalesman.Text(), "");
     EXPECT_TRUE(f.bGroupClearedSalesman);
     EXPECT_EQ(Focused(), "txtSalesman");
 }
 
 TEST_F(PartyGuards, AnsweringYesDropsTheLinesAndReloadsTheGroups) {
-    FoodsNoteWithALine();
+    EXPECT_FALSE(BalaOverFoods(AnswerYes, 2));
     auto& f = Form();
-    Pick(f.txtSalesman, "Bala Murugan", "2");
-    Answer(AnswerYes);
-    bool bRefused = false;
-    f.CheckForGridItem(2, bRefused);
-
-    EXPECT_FALSE(bRefused);
     EXPECT_EQ(GridLines(), 0);
     EXPECT_EQ(f.DTFlexDispatch.GridRows(), 1);
-    // Bala Murugan's type sells Personal Care alone.
     EXPECT_EQ(f.txtCategory.Tag, "3");
     EXPECT_EQ(f.txtCategory.Text(), "Personal Care");
     EXPECT_TRUE(f.bPartyAutoFilled);
 }
 
 TEST_F(PartyGuards, NoQuestionWhileTheGroupSuitsOrTheGridIsEmpty) {
-    FoodsNoteWithALine();
-    auto& f = Form();
+    auto& f = FoodsNoteWithALine();
     // Ezhil Mani's type sells Foods too.
     Pick(f.txtSalesman, "Ezhil Mani", "5");
     bool bRefused = false;
@@ -95,8 +86,7 @@ TEST_F(PartyGuards, NoQuestionWhileTheGroupSuitsOrTheGridIsEmpty) {
 }
 
 TEST_F(PartyGuards, ASalesmanChangedUnderAFilledGridCanBeTakenBack) {
-    FoodsNoteWithALine();
-    auto& f = Form();
+    auto& f = FoodsNoteWithALine();
     Pick(f.txtSalesman, "Bala Murugan", "2");
     Answer(AnswerNo);
     EnterSalesman();
@@ -108,8 +98,7 @@ TEST_F(PartyGuards, ASalesmanChangedUnderAFilledGridCanBeTakenBack) {
 }
 
 TEST_F(PartyGuards, ChangingTheGroupAsksWithMessageElevenAndNoRestoresIt) {
-    FoodsNoteWithALine();
-    auto& f = Form();
+    auto& f = FoodsNoteWithALine();
     Pick(f.txtCategory, "Beverages", "2");
     Answer(AnswerNo);
     EnterCategory();
@@ -122,8 +111,7 @@ TEST_F(PartyGuards, ChangingTheGroupAsksWithMessageElevenAndNoRestoresIt) {
 }
 
 TEST_F(PartyGuards, ChangingTheGroupAndAnsweringYesDropsTheLines) {
-    FoodsNoteWithALine();
-    auto& f = Form();
+    auto& f = FoodsNoteWithALine();
     Pick(f.txtCategory, "Beverages", "2");
     Answer(AnswerYes);
     EnterCategory();
@@ -138,8 +126,7 @@ TEST_F(PartyGuards, ChangingTheGroupAndAnsweringYesDropsTheLines) {
 }
 
 TEST_F(PartyGuards, AGroupListThatStillHoldsEveryOldGroupNeedsNoQuestion) {
-    FoodsNoteWithALine();
-    auto& f = Form();
+    auto& f = FoodsNoteWithALine();
     f.CheckForGroupChange("2,1", 1);
     EXPECT_TRUE(Messages().empty());
     EXPECT_TRUE(f.bGroupReset);
@@ -147,8 +134,7 @@ TEST_F(PartyGuards, AGroupListThatStillHoldsEveryOldGroupNeedsNoQuestion) {
 }
 
 TEST_F(PartyGuards, AnsweringNoToANewSalesmansGroupsBringsEveryPartyBack) {
-    FoodsNoteWithALine();
-    auto& f = Form();
+    auto& f = FoodsNoteWithALine();
     Pick(f.txtCustomer, "Anand Stores", "C001");
     f.LoadPreviousValues();
     Pick(f.txtSalesman, "Bala Murugan", "2");

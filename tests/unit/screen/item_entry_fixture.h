@@ -42,6 +42,12 @@ protected:
     }
 
     std::string Cell(int col, int row = 1) const { return form->DTFlexDispatch.GetCell(row, col); }
+    // Cells of row 1 joined with "|", to check a row's several columns at once.
+    std::string Cells(std::initializer_list<int> cols) const {
+        std::string text;
+        for (const int& col : cols) text += (&col == cols.begin() ? "" : "|") + Cell(col);
+        return text;
+    }
     void SetCell(int col, const std::string& text, int row = 1) { form->DTFlexDispatch.SetCell(row, col, text); }
 
     // The stock list's entries: text, then sub-items 2, 3 and 5 (price, quantity, free).

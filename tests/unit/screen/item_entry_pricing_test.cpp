@@ -24,9 +24,7 @@ TEST_F(ItemPricing, TheCustomersCategoryPicksThePriceAndOutsideOneToThreeItIsZer
         EXPECT_EQ(Cell(grid::colSalePrice), platform::NumberToText(platform::Val(price) * 24))
             << "category " << category;
     }
-    EXPECT_EQ(Cell(grid::colBatchTrack), "1");
-    EXPECT_EQ(Cell(grid::colPriceOption), "0");
-    EXPECT_EQ(Cell(grid::colTrackInventory), "1");
+    EXPECT_EQ(Cells({grid::colBatchTrack, grid::colPriceOption, grid::colTrackInventory}), "1|0|1");
     EXPECT_EQ(form->nBatchTrack, 1);
 }
 
@@ -35,9 +33,7 @@ TEST_F(ItemPricing, AnItemPricedByBatchKeepsItsPriceColumnsForTheBatch) {
     SetCell(grid::colOriginalPrice, "0.7");
     SetCell(grid::colSalePrice, "7");
     ItemLine("HC001", "2", 10);
-    EXPECT_EQ(Cell(grid::colPriceOption), "1");
-    EXPECT_EQ(Cell(grid::colSalePrice), "7");
-    EXPECT_EQ(Cell(grid::colOriginalPrice), "0.7");
+    EXPECT_EQ(Cells({grid::colPriceOption, grid::colSalePrice, grid::colOriginalPrice}), "1|7|0.7");
 }
 
 TEST_F(ItemPricing, ACodeTypedFindsItsNameAndAnUnknownOneIsRefused) {
@@ -55,8 +51,7 @@ TEST_F(ItemPricing, ACodeTypedFindsItsNameAndAnUnknownOneIsRefused) {
     EXPECT_TRUE(EndItemEdit(grid::colItemName));
     EXPECT_EQ(LastStatus(), "Invalid Item selected");
     // The refusal keeps the cell open, and the row still takes the empty look-up.
-    EXPECT_EQ(Cell(grid::colItemCode), "");
-    EXPECT_EQ(Cell(grid::colUOMID), "");
+    EXPECT_EQ(Cells({grid::colItemCode, grid::colUOMID}), "|");
 }
 
 TEST_F(ItemPricing, AnItemOutsideTheNotesGroupGetsMessage13) {

@@ -86,7 +86,7 @@ TEST_F(RowSerials, GetRowNumberFindsTheRowNotThePlaceInTheList) {
     EXPECT_EQ(f.getRowNumber(4), 0);
 }
 
-TEST_F(RowSerials, RemovingByALeadingCommaListTakesOnlyFreeRows) {
+TEST_F(RowSerials, RemovingByAListTakesOnlyFreeRows) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     Rows({10, -12, -13, 15});
     EXPECT_EQ(f.DoRowOperation(1, ",12,13", f.DTFlexDispatch), platform::Value(true));
@@ -99,25 +99,21 @@ TEST_F(RowSerials, RemovingByALeadingCommaListTakesOnlyFreeRows) {
 
     EXPECT_EQ(f.DoRowOperation(1, "99", f.DTFlexDispatch), platform::Value(false));
     EXPECT_TRUE(f.DoRowOperation(1, "", f.DTFlexDispatch).IsEmpty());
-}
 
-TEST_F(RowSerials, ConsecutiveFreeRowsAreAllRemoved) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
+    // Consecutive free rows are all removed.
     Rows({1, -2, -3, 4});
     EXPECT_EQ(f.DoRowOperation(1, "3,2", f.DTFlexDispatch), platform::Value(true));
     EXPECT_EQ(ItemCodes(), "FD001,FD004");
 }
 
-TEST_F(RowSerials, RowNumbersComeInGridOrderAndAnUnmatchedSerialIsSkipped) {
+TEST_F(RowSerials, RowNumbersComeInGridOrderSkippingUnmatchedAndOutOfOrderRows) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     Rows({1, 2, 3, 4, 12, 13});
     EXPECT_EQ(f.DoRowOperation(4, "13,12", f.DTFlexDispatch), platform::Value("5,6"));
     EXPECT_EQ(f.DoRowOperation(4, "2,7,12", f.DTFlexDispatch), platform::Value("2,5"));
     EXPECT_EQ(f.DoRowOperation(4, "7", f.DTFlexDispatch), platform::Value(""));
-}
 
-TEST_F(RowSerials, ARowOutOfOrderIsPassedOver) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
+    // A row out of order is passed over.
     Rows({1, 5, 3, 6});
     EXPECT_EQ(f.DoRowOperation(4, "3,5,6", f.DTFlexDispatch), platform::Value("2,4"));
 }

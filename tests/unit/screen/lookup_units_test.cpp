@@ -22,6 +22,11 @@ protected:
         return f;
     }
     std::string Cell(int col) { return form->DTFlexDispatch.GetCell(1, col); }
+    std::string Cells(std::initializer_list<int> cols) {
+        std::string text;
+        for (const int& col : cols) text += (&col == cols.begin() ? "" : "|") + Cell(col);
+        return text;
+    }
     std::string Entries() {
         std::string text;
         for (const auto& entry : form->lstUOM.Entries())
@@ -34,9 +39,7 @@ TEST_F(UnitsOfMeasure, ANewRowTakesTheSalesUnitTheLadderAndThePriceInThatUnit) {
     Zuro_frmDispatch_Dispatch& f = OpenWithRow(2, "FD001", "Marie Biscuit 100g", "9");
     f.LoadItemUOM("FD001", 1);
     EXPECT_EQ(Entries(), "Multiple=0|PCS=1|BOX=2|CASE=3");
-    EXPECT_EQ(Cell(grid::colUOMID), "2");
-    EXPECT_EQ(Cell(grid::colUOM), "BOX");
-    EXPECT_EQ(Cell(grid::colUOMDesc), "PCS=1 BOX=24 CASE=240 ");
+    EXPECT_EQ(Cells({grid::colUOMID, grid::colUOM, grid::colUOMDesc}), "2|BOX|PCS=1 BOX=24 CASE=240 ");
     EXPECT_DOUBLE_EQ(f.dUOMRate, 24);
     EXPECT_EQ(Cell(grid::colSalePrice), "216");
     EXPECT_EQ(Errors(), 0) << ErrorLines();
@@ -47,8 +50,7 @@ TEST_F(UnitsOfMeasure, AStoredUnitIsKeptAndGivesTheRate) {
     f.DTFlexDispatch.SetCell(1, grid::colUOMID, "3");
     f.DTFlexDispatch.SetCell(1, grid::colUOM, "CASE");
     f.LoadItemUOM("FD001", 1);
-    EXPECT_EQ(Cell(grid::colUOMID), "3");
-    EXPECT_EQ(Cell(grid::colUOM), "CASE");
+    EXPECT_EQ(Cells({grid::colUOMID, grid::colUOM}), "3|CASE");
     EXPECT_EQ(Cell(grid::colUOMDesc), "");  // the ladder is written only for a row without a unit
     EXPECT_DOUBLE_EQ(f.dUOMRate, 240);
     EXPECT_EQ(Cell(grid::colSalePrice), "2160");
@@ -60,8 +62,7 @@ TEST_F(UnitsOfMeasure, AFreeRowKeepsPriceZeroThroughAReload) {
     f.DTFlexDispatch.SetCell(1, grid::colFreeRow, "1");
     f.DTFlexDispatch.SetCell(1, grid::colSalePrice, "0");
     f.LoadItemUOM("FD002", 1);
-    EXPECT_EQ(Cell(grid::colUOM), "BOX");
-    EXPECT_EQ(Cell(grid::colSalePrice), "0");
+    EXPECT_EQ(Cells({grid::colUOM, grid::colSalePrice}), "BOX|0");
 }
 
 TEST_F(UnitsOfMeasure, AnUnknownItemLeavesTheRowAndAnEmptyList) {
@@ -69,8 +70,7 @@ TEST_F(UnitsOfMeasure, AnUnknownItemLeavesTheRowAndAnEmptyList) {
     f.lstUOM.AddItem("stale", 9);
     f.LoadItemUOM("XX999", 1);
     EXPECT_EQ(f.lstUOM.ListCount(), 0);
-    EXPECT_EQ(Cell(grid::colUOMID), "");
-    EXPECT_EQ(Cell(grid::colSalePrice), "");
+    EXPECT_EQ(Cells({grid::colUOMID, grid::colSalePrice}), "|");
     EXPECT_EQ(Errors(), 0);
 }
 
@@ -107,8 +107,7 @@ TEST_F(UnitsOfMeasure, AChoiceFromTheListSetsUnitAndRateAndEnterGoesOnToTheQuant
     f.txtRemarks.SetFocus();
     f.lstUOM.SetListIndex(3);  // CASE, with its click
     EXPECT_EQ(f.ActiveControl(), &f.txtRemarks) << "a click leaves the focus where it was";
-    EXPECT_EQ(Cell(grid::colUOMID), "3");
-    EXPECT_EQ(Cell(grid::colUOM), "CASE");
+    EXPECT_EQ(Cells({grid::colUOMID, grid::colUOM}), "3|CASE");
     EXPECT_DOUBLE_EQ(f.dUOMRate, 240);
 
     f.DTFlexDispatch.SetGridCol(grid::colUOM);

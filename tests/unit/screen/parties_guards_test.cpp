@@ -1,5 +1,7 @@
 // A grid that has lines guards them against a party change that would not suit the
 // items taken: the clerk either drops the lines or gets the old party back.
+#include <ostream>
+
 #include "parties_test_fixture.h"
 #include "screen/host_services/host_messages.h"
 
@@ -17,26 +19,31 @@ class PartyGuards : public PartiesTest {
 protected:
     // Arun Kumar on Anna Nagar selling Foods, with one line in the grid, as an
     // earlier Enter left it.
-    void FoodsNoteWithALine() {
+    screen::Zuro_frmDispatch_Dispatch& FoodsNoteWithALine() {
         auto& f = Form();
         Pick(f.txtSalesman, "Arun Kumar", "1");
         Pick(f.txtBeat, "Anna Nagar", "1");
         Pick(f.txtCategory, "Foods", "1");
         f.LoadPreviousValues();
         AddGridLine("FD001", "Marie Biscuit 100g");
+        return f;
+    }
+    // Bala Murugan, whose type sells Personal Care alone, put over the Foods note, the
+    // user's answer queued and the grid's check run; whether it refused him.
+    bool BalaOverFoods(int answer, long filledBy) {
+        auto& f = FoodsNoteWithALine();
+        Pick(f.txtSalesman, "Bala Murugan", "2");
+        Answer(answer);
+        bool bRefused = false;
+        f.CheckForGridItem(filledBy, bRefused);
+        return bRefused;
     }
 };
 
 TEST_F(PartyGuards, ANewSalesmanWhoseTypeDoesNotSellTheGroupAsksAndNoBringsTheOldOneBack) {
-    FoodsNoteWithALine();
+    EXPECT_TRUE(BalaOverFoods(AnswerNo, 0));
     auto& f = Form();
-    Pick(f.txtSalesman, "Bala Murugan", "2");
-    Answer(AnswerNo);
-    bool bRefused = false;
-    f.CheckForGridItem(0, bRefused);
-
     EXPECT_EQ(Messages(), std::vector<std::string>{kMessage10});
-    EXPECT_TRUE(bRefused);
     EXPECT_EQ(f.txtSalesman.Text(), "Arun Kumar");
     EXPECT_EQ(f.txtSalesman.Tag, "1");
     EXPECT_EQ(GridLines(), 1);
@@ -44,39 +51,25 @@ TEST_F(PartyGuards, ANewSalesmanWhoseTypeDoesNotSellTheGroupAsksAndNoBringsTheOl
 }
 
 TEST_F(PartyGuards, AnsweringNoToASalesmanTheProgramFilledEmptiesTheSalesman) {
-    FoodsNoteWithALine();
+    EXPECT_TRUE(BalaOverFoods(AnswerNo, 2));
     auto& f = Form();
-    Pick(f.txtSalesman, "Bala Murugan", "2");
-    Answer(AnswerNo);
-    bool bRefused = false;
-    f.CheckForGridItem(2, bRefused);
-
-    EXPECT_TRUE(bRefused);
     EXPECT_EQ(f.txtSalesman.Text(), "");
     EXPECT_TRUE(f.bGroupClearedSalesman);
     EXPECT_EQ(Focused(), "txtSalesman");
 }
 
 TEST_F(PartyGuards, AnsweringYesDropsTheLinesAndReloadsTheGroups) {
-    FoodsNoteWithALine();
+    EXPECT_FALSE(BalaOverFoods(AnswerYes, 2));
     auto& f = Form();
-    Pick(f.txtSalesman, "Bala Murugan", "2");
-    Answer(AnswerYes);
-    bool bRefused = false;
-    f.CheckForGridItem(2, bRefused);
-
-    EXPECT_FALSE(bRefused);
     EXPECT_EQ(GridLines(), 0);
     EXPECT_EQ(f.DTFlexDispatch.GridRows(), 1);
-    // Bala Murugan's type sells Personal Care alone.
     EXPECT_EQ(f.txtCategory.Tag, "3");
     EXPECT_EQ(f.txtCategory.Text(), "Personal Care");
     EXPECT_TRUE(f.bPartyAutoFilled);
 }
 
 TEST_F(PartyGuards, NoQuestionWhileTheGroupSuitsOrTheGridIsEmpty) {
-    FoodsNoteWithALine();
-    auto& f = Form();
+    auto& f = FoodsNoteWithALine();
     // Ezhil Mani's type sells Foods too.
     Pick(f.txtSalesman, "Ezhil Mani", "5");
     bool bRefused = false;
@@ -93,8 +86,7 @@ TEST_F(PartyGuards, NoQuestionWhileTheGroupSuitsOrTheGridIsEmpty) {
 }
 
 TEST_F(PartyGuards, ASalesmanChangedUnderAFilledGridCanBeTakenBack) {
-    FoodsNoteWithALine();
-    auto& f = Form();
+    auto& f = FoodsNoteWithALine();
     Pick(f.txtSalesman, "Bala Murugan", "2");
     Answer(AnswerNo);
     EnterSalesman();
@@ -106,8 +98,7 @@ TEST_F(PartyGuards, ASalesmanChangedUnderAFilledGridCanBeTakenBack) {
 }
 
 TEST_F(PartyGuards, ChangingTheGroupAsksWithMessageElevenAndNoRestoresIt) {
-    FoodsNoteWithALine();
-    auto& f = Form();
+    auto& f = FoodsNoteWithALine();
     Pick(f.txtCategory, "Beverages", "2");
     Answer(AnswerNo);
     EnterCategory();
@@ -120,8 +111,7 @@ TEST_F(PartyGuards, ChangingTheGroupAsksWithMessageElevenAndNoRestoresIt) {
 }
 
 TEST_F(PartyGuards, ChangingTheGroupAndAnsweringYesDropsTheLines) {
-    FoodsNoteWithALine();
-    auto& f = Form();
+    auto& f = FoodsNoteWithALine();
     Pick(f.txtCategory, "Beverages", "2");
     Answer(AnswerYes);
     EnterCategory();
@@ -136,8 +126,7 @@ TEST_F(PartyGuards, ChangingTheGroupAndAnsweringYesDropsTheLines) {
 }
 
 TEST_F(PartyGuards, AGroupListThatStillHoldsEveryOldGroupNeedsNoQuestion) {
-    FoodsNoteWithALine();
-    auto& f = Form();
+    auto& f = FoodsNoteWithALine();
     f.CheckForGroupChange("2,1", 1);
     EXPECT_TRUE(Messages().empty());
     EXPECT_TRUE(f.bGroupReset);
@@ -145,8 +134,7 @@ TEST_F(PartyGuards, AGroupListThatStillHoldsEveryOldGroupNeedsNoQuestion) {
 }
 
 TEST_F(PartyGuards, AnsweringNoToANewSalesmansGroupsBringsEveryPartyBack) {
-    FoodsNoteWithALine();
-    auto& f = Form();
+    auto& f = FoodsNoteWithALine();
     Pick(f.txtCustomer, "Anand Stores", "C001");
     f.LoadPreviousValues();
     Pick(f.txtSalesman, "Bala Murugan", "2");
@@ -175,6 +163,64 @@ TEST_F(PartyGuards, ResetCatGrpEmptiesTheItemStatementsForAllCategories) {
     EXPECT_EQ(f.szItemNameQuery, "");
     EXPECT_EQ(ErrorLines(), std::vector<std::string>{});
 }
+
+// The comma lists the party fields lean on: the sort of a list of serials or group IDs,
+// and whether the groups of one list stand in another.
+
+using Form = screen::Zuro_frmDispatch_Dispatch;
+
+TEST(GetSerialInAscOrder, SortsNumericallyAndWritesNumbers) {
+    EXPECT_EQ(Form::GetSerialInAscOrder("3,1,2,"), "1,2,3");
+    // Numbers, not texts: 9 before 10 before 100.
+    EXPECT_EQ(Form::GetSerialInAscOrder("100,9,10"), "9,10,100");
+    EXPECT_EQ(Form::GetSerialInAscOrder("007,3"), "3,7");
+    EXPECT_EQ(Form::GetSerialInAscOrder("2,1,2,1"), "1,1,2,2");
+    // The list LoadCategoryGroup gathers has a blank after each comma.
+    EXPECT_EQ(Form::GetSerialInAscOrder("4, 1, 3"), "1,3,4");
+}
+
+TEST(GetSerialInAscOrder, EdgesOfTheList) {
+    EXPECT_EQ(Form::GetSerialInAscOrder(""), "");
+    EXPECT_EQ(Form::GetSerialInAscOrder("5"), "5");
+    EXPECT_EQ(Form::GetSerialInAscOrder("5,"), "5");
+    // The largest at the very end and the smallest at the very start must both move.
+    EXPECT_EQ(Form::GetSerialInAscOrder("9,5,4,3,1"), "1,3,4,5,9");
+    // An empty element reads 0; only one trailing comma is cut.
+    EXPECT_EQ(Form::GetSerialInAscOrder(",5"), "0,5");
+    EXPECT_EQ(Form::GetSerialInAscOrder("3,1,,"), "0,1,3");
+}
+
+struct GrpExistsCase {
+    const char* szOld;
+    const char* szNew;
+    bool bAll;
+    bool bAny;
+};
+
+// Test names carry the lists, not the addresses of their texts.
+void PrintTo(const GrpExistsCase& c, std::ostream* out) {
+    *out << "old \"" << c.szOld << "\" new \"" << c.szNew << "\"";
+}
+
+class GrpExistsTest : public ::testing::TestWithParam<GrpExistsCase> {};
+
+TEST_P(GrpExistsTest, ComparesEveryOldGroupWithEveryNewOne) {
+    const auto& c = GetParam();
+    bool bAll = false, bAny = true;
+    Form::GrpExists(c.szOld, c.szNew, bAll, bAny);
+    EXPECT_EQ(bAll, c.bAll) << c.szOld << " in " << c.szNew;
+    EXPECT_EQ(bAny, c.bAny) << c.szOld << " in " << c.szNew;
+}
+
+INSTANTIATE_TEST_SUITE_P(Lists, GrpExistsTest,
+                         ::testing::Values(GrpExistsCase{"1,2", "2,1", true, true},  // the same groups in another order
+                                           GrpExistsCase{"1,2", "2", false, true},   // one kept, one lost
+                                           GrpExistsCase{"1,2,3", "1,2", false, true},  // the last old one lost
+                                           GrpExistsCase{"3", "1,2,3", true, true},     // found at the last new place
+                                           GrpExistsCase{"1", "2,3", false, false},
+                                           GrpExistsCase{"12", "1,2", false, false},  // whole entries, not digits
+                                           GrpExistsCase{"", "1", true, false},       // nothing before: nothing lost
+                                           GrpExistsCase{"4", "", false, false}));
 
 }  // namespace
 }  // namespace parties_test

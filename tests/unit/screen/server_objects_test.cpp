@@ -1,5 +1,6 @@
-// The server objects behind the party fields, over the demo data: who is mapped to
-// whom, which groups a salesman's DS type sells, and the answers the screen reads.
+// The server objects behind the party fields and the item grid, over the demo data:
+// who is mapped to whom, which groups a salesman's DS type sells, the items a dispatch
+// may sell, whether a typed item is among them, and an item's unit ladder.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -9,11 +10,14 @@
 
 namespace {
 
-class PartyServerObjects : public screen_test::ScreenTest {
+class ServerObjects : public screen_test::ScreenTest {
 protected:
     // Rows as "a|b;c|d".
     std::string Rows(const platform::RecordsetPtr& rs) { return parties_test::RowsText(rs); }
     std::string Query(const std::string& sql) { return Rows(database->Execute(sql)); }
+    std::string Codes(const std::string& source) {
+        return Query("Select Product_Code From " + source + " Order By Product_Code");
+    }
     std::string Call(const std::string& name, const platform::ParameterList& parameters) {
         return Rows(database->RunProcedure(name, parameters));
     }
@@ -21,7 +25,7 @@ protected:
     static platform::Parameter Text(const std::string& s) { return {platform::Value(s), platform::adtype::VarChar}; }
 };
 
-TEST_F(PartyServerObjects, MappingNarrowsEachPartyAndZeroLeavesItOpen) {
+TEST_F(ServerObjects, MappingNarrowsEachPartyAndZeroLeavesItOpen) {
     const std::string mapped = "From dbo.Fn_Get_MappedSalemanBeatAndCustomer_QAX(";
     // The beats of a salesman, without the deactivated Porur (7).
     EXPECT_EQ(
@@ -37,7 +41,7 @@ TEST_F(PartyServerObjects, MappingNarrowsEachPartyAndZeroLeavesItOpen) {
     EXPECT_EQ(Query("Select Distinct CustomerID " + mapped + "3,5,'') Order By CustomerID"), "C003;C010");
 }
 
-TEST_F(PartyServerObjects, MappingNeverOffersInactiveCustomersOrCategoriesFourAndFive) {
+TEST_F(ServerObjects, MappingNeverOffersInactiveCustomersOrCategoriesFourAndFive) {
     database->ExecuteScript(
         "INSERT INTO BeatCustomer (BeatID, CustomerID) VALUES (5, 'C007'), (5, 'C008'), (5, 'C015');");
     EXPECT_EQ(Query("Select Distinct CustomerID From dbo.Fn_Get_MappedSalemanBeatAndCustomer_QAX(0,5,'') "
@@ -45,12 +49,12 @@ TEST_F(PartyServerObjects, MappingNeverOffersInactiveCustomersOrCategoriesFourAn
               "C003;C010");
 }
 
-TEST_F(PartyServerObjects, MappingRefusesAShortCall) {
+TEST_F(ServerObjects, MappingRefusesAShortCall) {
     EXPECT_THROW(database->Execute("Select * From dbo.Fn_Get_MappedSalemanBeatAndCustomer_QAX(1,0)"),
                  platform::RuntimeError);
 }
 
-TEST_F(PartyServerObjects, CategoryGroupsOfTheSalesmansDSType) {
+TEST_F(ServerObjects, CategoryGroupsOfTheSalesmansDSType) {
     EXPECT_EQ(Query("Select GroupID,GroupName From dbo.fn_ListCategoryGroup(1)"), "1|Foods;2|Beverages");
     // Every active group; the inactive Festive Range (5) is not offered.
     EXPECT_EQ(Query("Select GroupID From dbo.fn_ListCategoryGroup(4)"), "1;2;3;4");
@@ -72,7 +76,7 @@ TEST_F(PartyServerObjects, CategoryGroupsOfTheSalesmansDSType) {
     EXPECT_EQ(Call("Zuro_sp_Get_CGNames", {Text("2,1,2")}), "Beverages;Foods");
 }
 
-TEST_F(PartyServerObjects, ItemsOfAListOfGroups) {
+TEST_F(ServerObjects, ItemsOfAListOfGroups) {
     const std::string items = Query("Select Product_Code From dbo.Sp_Get_Items_QAX('1,2') Order By Product_Code");
     EXPECT_NE(items.find("FD001"), std::string::npos);
     EXPECT_NE(items.find("BV001"), std::string::npos);
@@ -82,7 +86,7 @@ TEST_F(PartyServerObjects, ItemsOfAListOfGroups) {
     EXPECT_EQ(Query("Select Count(*) From dbo.Sp_Get_Items_QAX('')"), "0");
 }
 
-TEST_F(PartyServerObjects, DefaultsAndTheActiveBeat) {
+TEST_F(ServerObjects, DefaultsAndTheActiveBeat) {
     EXPECT_EQ(Call("Sp_Get_BeatSalesMan_QAX", {Text("C011"), Int(1)}), "2|Bala Murugan|4|Adyar");
     // Several beats: the first by number; several salesmen: the first by number.
     EXPECT_EQ(Call("Sp_Get_BeatSalesMan_QAX", {Text("C001"), Int(1)}), "1|Arun Kumar|1|Anna Nagar");
@@ -95,6 +99,62 @@ TEST_F(PartyServerObjects, DefaultsAndTheActiveBeat) {
     EXPECT_EQ(Call("sp_Validate_ActiveBeat", {{platform::Value(7.0), platform::adtype::Double}, Int(1)}), "0");
     EXPECT_EQ(Call("sp_Validate_ActiveBeat", {{platform::Value(1.0), platform::adtype::Double}, Int(1)}), "1");
     EXPECT_EQ(Call("sp_Validate_ActiveBeat", {{platform::Value(99.0), platform::adtype::Double}, Int(1)}), "");
+}
+
+TEST_F(ServerObjects, GroupsGiveTheActiveItemsOfTheirCategories) {
+    EXPECT_EQ(Codes("dbo.Fn_Get_Items_QAX('2')"), "BV001;BV002;BV003");
+    EXPECT_EQ(Codes("dbo.Fn_Get_Items_QAX('2, 4')"), "BV001;BV002;BV003;HC001;HC002;HC003");
+    EXPECT_EQ(Codes("dbo.Fn_Get_Items_QAX('')"), "");
+    // A switched-off item is not offered; the switched-off group's items are not in all groups.
+    database->Execute("Update Items Set Active = 0 Where Product_Code = 'BV002'");
+    EXPECT_EQ(Codes("dbo.Fn_Get_Items_QAX('2')"), "BV001;BV003");
+    const std::string all = Codes("dbo.Fn_Get_Items_QAX_AllCat()");
+    EXPECT_EQ(all.find("FS001"), std::string::npos);
+    EXPECT_EQ(all.find("BV002"), std::string::npos);
+    EXPECT_NE(all.find("PM002"), std::string::npos);
+    // Both columns, by name.
+    EXPECT_EQ(Rows(database->Execute("Select ProductName From dbo.Fn_Get_Items_QAX('2') Where Product_Code = 'BV003'")),
+              "Drinking Water 1L");
+}
+
+TEST_F(ServerObjects, AnAmendmentAlsoOffersWhatTheNoteHolds) {
+    const std::string held = Rows(database->Execute(
+        "Select Distinct Product_Code From DispatchDetail Where DispatchID = 2 Order By Product_Code"));
+    ASSERT_FALSE(held.empty());
+    const std::string first = held.substr(0, held.find(';'));
+    database->Execute("Update Items Set Active = 0 Where Product_Code = '" + first + "'");
+
+    EXPECT_EQ(Codes("dbo.Fn_Get_Items_QAX('2')").find(first), std::string::npos);
+    EXPECT_NE(Codes("dbo.Fn_Get_DispatchItems_QAX('2',2)").find(first), std::string::npos);
+    EXPECT_NE(Codes("dbo.Fn_Get_DispatchItems_QAX_AllCat('2')").find(first), std::string::npos);
+    EXPECT_NE(Codes("dbo.Fn_Get_DSTypeWiseSKU_Amend(3,2, 1)").find(first), std::string::npos);
+    // Another note's items are not added.
+    EXPECT_EQ(Codes("dbo.Fn_Get_DispatchItems_QAX('2',999)"), "BV001;BV002;BV003");
+}
+
+TEST_F(ServerObjects, ACategoryMappedDSTypeSellsItsCategories) {
+    EXPECT_EQ(Codes("dbo.Fn_Get_DSTypeWiseSKU(3, 1)"), "HC001;HC002;HC003;PC001;PC002;PC003");
+    // A type that is not mapped to categories sells nothing this way.
+    EXPECT_EQ(Codes("dbo.Fn_Get_DSTypeWiseSKU(1, 1)"), "");
+    database->Execute("Update Items Set Active = 0 Where Product_Code = 'PC003'");
+    EXPECT_EQ(Codes("dbo.Fn_Get_DSTypeWiseSKU(3, 1)"), "HC001;HC002;HC003;PC001;PC002");
+    EXPECT_EQ(Codes("dbo.Fn_Get_DSTypeWiseSKU(3, 0)"), "HC001;HC002;HC003;PC001;PC002;PC003");
+}
+
+TEST_F(ServerObjects, TheChecksAnswerOneForAnItemThatMayBeSold) {
+    EXPECT_EQ(Call("sp_CheckItemExists_QAX", {Text("1,2"), Text("bv001")}), "1");
+    EXPECT_EQ(Call("sp_CheckItemExists_QAX", {Text("3"), Text("FD001")}), "0");
+    EXPECT_EQ(Call("sp_CheckItemExists_QAX", {Text("1"), Text("NOSUCH")}), "0");
+    EXPECT_EQ(Call("sp_CheckItemExists_DSType", {Int(3), Text("PC002")}), "1");
+    EXPECT_EQ(Call("sp_CheckItemExists_DSType", {Int(3), Text("FD001")}), "0");
+}
+
+TEST_F(ServerObjects, TheUnitLadderStartsWithTheSalesUnit) {
+    EXPECT_EQ(Call("sp_get_item_uom", {Text("FD001")}), "2|BOX|24;1|PCS|1;2|BOX|24;3|CASE|240");
+    EXPECT_EQ(Call("sp_get_item_uom", {Text("FD004")}), "5|BTL|1;5|BTL|1;6|CTN|12");
+    EXPECT_EQ(Call("sp_get_item_uom", {Text("HC001")}), "2|BOX|10;4|STRIP|1;2|BOX|10;3|CASE|500");
+    EXPECT_EQ(Call("sp_get_item_uom", {Text("FD003")}), "1|PCS|1;1|PCS|1");
+    EXPECT_EQ(Call("sp_get_item_uom", {Text("NOSUCH")}), "");
 }
 
 }  // namespace

@@ -31,9 +31,18 @@ protected:
         for (auto* list : {form->objSalesmanList.get(), form->objBeatList.get(), form->objCustomerList.get()})
             if (list && list->GetVisible()) list->HideList();
     }
-    void EnterSalesman(int shift = 0) { Enter(&screen::Zuro_frmDispatch_Dispatch::txtSalesman_KeyDown, shift); }
-    void EnterBeat(int shift = 0) { Enter(&screen::Zuro_frmDispatch_Dispatch::txtBeat_KeyDown, shift); }
-    void EnterCategory(int shift = 0) { Enter(&screen::Zuro_frmDispatch_Dispatch::txtCategory_KeyDown, shift); }
+    void EnterSalesman(int shift = 0) {
+        int key = 13;
+        form->txtSalesman_KeyDown(key, shift);
+    }
+    void EnterBeat(int shift = 0) {
+        int key = 13;
+        form->txtBeat_KeyDown(key, shift);
+    }
+    void EnterCategory(int shift = 0) {
+        int key = 13;
+        form->txtCategory_KeyDown(key, shift);
+    }
 
     // The grid holding one line of an item, and the blank row for entry under it.
     void AddGridLine(const std::string& itemCode, const std::string& itemName) {
@@ -67,12 +76,6 @@ protected:
     void Answer(int button) { answers.Queue("AskMessage", {std::to_string(button)}); }
 
     std::size_t linesAtOpen = 0;
-
-private:
-    void Enter(void (screen::Zuro_frmDispatch_Dispatch::*keyDown)(int&, int), int shift) {
-        int key = 13;
-        (form->*keyDown)(key, shift);
-    }
 };
 
 // A result's rows as "a|b;c|d", each value as the runtime writes it.

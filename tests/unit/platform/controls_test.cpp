@@ -5,15 +5,16 @@
 #include <string>
 #include <vector>
 
-#include "controls_test_support.h"
+#include "platform_test_support.h"
 
 namespace {
 
 using namespace platform;
-using controls_test::ErrorNumberOf;
+using platform::testing::ErrorNumberOf;
+using platform::testing::SingleFocus;
 
 TEST(ControlsFocus, MovesWithLostThenGotFocusAndIsRefusedUnderAHiddenOrDisabledFrame) {
-    controls_test::SingleFocus scope;
+    SingleFocus scope;
     Frame page{scope, "Frame3"}, inner{scope, "Frame5", 1};
     TextBox box{scope, "txtShippingAddress"};
     CommandButton save{scope, "cmdSave"};
@@ -48,7 +49,7 @@ TEST(ControlsFocus, MovesWithLostThenGotFocusAndIsRefusedUnderAHiddenOrDisabledF
 
 class Controls : public ::testing::Test {
 protected:
-    controls_test::SingleFocus scope;
+    SingleFocus scope;
     int changes = 0, clicks = 0;
 };
 

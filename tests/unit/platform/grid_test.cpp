@@ -9,13 +9,14 @@
 #include <utility>
 #include <vector>
 
-#include "controls_test_support.h"
 #include "platform/grid.h"
+#include "platform_test_support.h"
 
-namespace grid_test {
+namespace {
 
-using controls_test::ErrorNumberOf;
-using controls_test::SingleFocus;
+using platform::testing::ErrorNumberOf;
+using platform::testing::SingleFocus;
+using Events = std::vector<std::string>;
 
 class NewNoteGrid : public ::testing::Test {
 protected:
@@ -74,47 +75,28 @@ protected:
     }
 };
 
-using Events = std::vector<std::string>;
-
-}  // namespace grid_test
-
-using grid_test::ErrorNumberOf;
-using grid_test::Events;
-using grid_test::NewNoteGrid;
-using grid_test::SingleFocus;
-
 // The grid as a table of text: its shape, cells and headings, the blank row, and
 // the refusal of an address outside it.
 
-namespace {
-
-using platform::DTFlex;
-
-class GridCells : public ::testing::Test {
-protected:
-    SingleFocus scope;
-    DTFlex grid{scope, "dtInvoice", 11};
-};
-
-TEST_F(GridCells, CellsOutsideTheGridAreError381) {
-    EXPECT_EQ(grid.GridRows(), 1);  // a new grid offers one blank row
+TEST_F(NewNoteGrid, CellsOutsideTheGridAreError381) {
+    EXPECT_EQ(platform::DTFlex(scope, "dtInvoice", 11).GridRows(), 1);  // a new grid offers one blank row
     grid.SetGridRows(2);
-    for (auto [row, col] : {std::pair{-1, 1}, {3, 1}, {1, -1}, {1, 12}}) {
+    for (auto [row, col] : {std::pair{-1, 1}, {3, 1}, {1, -1}, {1, kCols + 1}}) {
         EXPECT_EQ(ErrorNumberOf([&] { (void)grid.GetCell(row, col); }), 381) << row << "," << col;
         EXPECT_EQ(ErrorNumberOf([&] { grid.SetCell(row, col, "x"); }), 381) << row << "," << col;
     }
     EXPECT_EQ(ErrorNumberOf([&] { grid.RemoveRow(0); }), 381);
-    EXPECT_EQ(ErrorNumberOf([&] { grid.SetColHeading(35, "x"); }), 381);
+    EXPECT_EQ(ErrorNumberOf([&] { grid.SetColHeading(kCols + 1, "x"); }), 381);
     EXPECT_EQ(ErrorNumberOf([&] { grid.SetGridRows(-1); }), platform::err::InvalidPropertyValue);
     EXPECT_EQ(grid.GridRows(), 2);
 }
 
-TEST_F(GridCells, HeadingsAndRowNumbersAreNoEntriesAndRowsComeAndGoFromTheEnd) {
+TEST_F(NewNoteGrid, HeadingsAndRowNumbersAreNoEntriesAndRowsComeAndGoFromTheEnd) {
     grid.SetColHeading(2, "Invoice ID");
     grid.SetCell(1, 0, "1");
     EXPECT_EQ(grid.GetCell(0, 2), "Invoice ID");
     EXPECT_TRUE(grid.IsBlankRow(1));
-    grid.SetCell(1, 11, "x");
+    grid.SetCell(1, kCols, "x");
     EXPECT_FALSE(grid.IsBlankRow(1));
 
     // Rows come and go from the end and RemoveRow moves the rest up.
@@ -129,7 +111,7 @@ TEST_F(GridCells, HeadingsAndRowNumbersAreNoEntriesAndRowsComeAndGoFromTheEnd) {
     EXPECT_EQ(grid.GetCell(2, 1), "");  // a dropped row does not come back
 }
 
-TEST_F(GridCells, ClearGridEmptiesTheRowsAndKeepsHeadingsAndCount) {
+TEST_F(NewNoteGrid, ClearGridEmptiesTheRowsAndKeepsHeadingsAndCount) {
     grid.SetColHeading(1, "Doc");
     grid.SetGridRows(2);
     grid.SetCell(2, 0, "2");
@@ -206,9 +188,8 @@ TEST_F(NewNoteGrid, AfterColUpdateIsOnlyForTheFirstSixColumns) {
     grid.SetCellEdit(1);
     ASSERT_TRUE(grid.Editing());
     grid.UserType("1");
-    TakeEvents();
     EXPECT_TRUE(grid.CommitEdit());
-    EXPECT_EQ(TakeEvents(), Events{});
+    EXPECT_EQ(TakeEvents(), (Events{"RowColChange 1 7", "Change 7"}));
     EXPECT_EQ(grid.GetCell(1, 7), "1");
 }
 
@@ -231,9 +212,16 @@ TEST_F(NewNoteGrid, AHandlerThatRemovesTheEditedRowLeavesTheEntryRowInPlace) {
 // raise RowColChange only when the cell really moves; and the unit list attached to
 // column 4: when it drops down, how a choice lands in the cell, when it closes.
 
-class NewNoteGridKeys : public NewNoteGrid {};
+using NewNoteGridKeys = NewNoteGrid;
 
-TEST_F(NewNoteGridKeys, TypingReportsEachCharactersKeyCodeAndOneChange) {
+TEST_F(NewNoteGridKeys, TypingReportsEachCharactersKeyCodeAndOneChangeAndADisabledPageTakesNoKeys) {
+    page.Enabled = false;
+    grid.UserType("A");
+    grid.UserKey(13);
+    EXPECT_TRUE(codes.empty());
+    EXPECT_EQ(events, Events{});
+
+    page.Enabled = true;
     grid.SetGridCol(6);
     TakeEvents();
     grid.UserType("aZ9*/.- ");
@@ -242,17 +230,14 @@ TEST_F(NewNoteGridKeys, TypingReportsEachCharactersKeyCodeAndOneChange) {
     EXPECT_EQ(TakeEvents(), Events{"Change 6"});
 }
 
-TEST_F(NewNoteGridKeys, AMoveInTheKeyHandlerTakesTheKeysPlace) {
+TEST_F(NewNoteGridKeys, AKeyHandlerMayMoveInTheKeysPlaceOrSwallowAllButMoves) {
     // Right in an empty item code goes to the item name, not one further.
     grid.KeyCode.Connect([this](int& code, int) {
         if (code == 39 && grid.GridCol() == 1 && grid.GetCell(grid.GridRow(), 1).empty()) grid.SetGridCol(2);
     });
-    grid.UserGoto(1, 1);
     grid.UserKey(39);
     EXPECT_EQ(grid.GridCol(), 2);
-}
 
-TEST_F(NewNoteGridKeys, ARowThatSwallowsAllButMovesKeepsItsArrowsAndEnter) {
     // A free row: only Enter and the arrows get through.
     grid.SetCell(1, 1, "FREE1");
     grid.SetCell(1, 15, "1");
@@ -260,6 +245,7 @@ TEST_F(NewNoteGridKeys, ARowThatSwallowsAllButMovesKeepsItsArrowsAndEnter) {
         const bool move = code == 13 || (code >= 37 && code <= 40);
         if (grid.GetCell(grid.GridRow(), 15) == "1" && !move) code = 0;
     });
+    grid.SetGridCol(1);
     TakeEvents();
     grid.UserType("X");
     grid.UserKey(8);
@@ -345,14 +331,6 @@ TEST_F(NewNoteGridKeys, RowColChangeOnlyWhenTheCellMovesAndAProgramMoveDropsTheE
     EXPECT_EQ(grid.GetCell(1, 1), "");
     EXPECT_EQ(ErrorNumberOf([&] { grid.SetGridRow(4); }), 381);
     EXPECT_EQ(ErrorNumberOf([&] { grid.SetGridCol(0); }), 381);
-}
-
-TEST_F(NewNoteGridKeys, AGridOnADisabledPageTakesNoKeys) {
-    page.Enabled = false;
-    grid.UserType("A");
-    grid.UserKey(13);
-    EXPECT_TRUE(codes.empty());
-    EXPECT_EQ(events, Events{});
 }
 
 TEST_F(NewNoteGridKeys, AChoiceFromTheUnitListIsNoChangeAndARefusedOneKeepsTheList) {

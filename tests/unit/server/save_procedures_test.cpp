@@ -50,13 +50,6 @@ TEST_F(SaveAbstract, StoresTheNoteAndSpendsTheNextNumberOfTheSerial) {
     EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract", AbstractParameters(false)).back()), "11|51");
     EXPECT_EQ(Text("SELECT GroupID FROM DispatchAbstract WHERE DispatchID = 11"), "-1");
     EXPECT_EQ(Answer("sp_get_NewDispatchID", {}).AsInteger(), 52);
-
-    // The caller's rollback takes the number back with the note.
-    db().BeginTrans();
-    EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract", AbstractParameters(true)).back()), "12|52");
-    db().RollbackTrans();
-    EXPECT_EQ(Text(kLastDispatchNumber), "51");
-    EXPECT_EQ(Text("SELECT COUNT(*) FROM DispatchAbstract"), "11");
 }
 
 TEST_F(SaveAbstract, TheReplacementOfAnAmendedNoteKeepsTheOldNumber) {

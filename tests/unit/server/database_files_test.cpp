@@ -34,17 +34,6 @@ std::string Written(const std::string& text) {
     return path;
 }
 
-TEST(DatabaseFiles, AMadeDatabaseOpensWithItsSettings) {
-    const std::string path = ScratchPath("made", ".db");
-    CreateDatabaseFromScripts(path, {SchemaScript()});
-    auto connection = OpenEmbedded(path);
-    EXPECT_TRUE(IsDispatchDatabase(*connection));
-    EXPECT_EQ(RowsText(connection->ExecuteNative("PRAGMA journal_mode")), "wal");
-    EXPECT_EQ(RowsText(connection->ExecuteNative("PRAGMA foreign_keys")), "1");
-    platform::ConnectionPtr plain = OpenDatabase(path);
-    EXPECT_EQ(RowsText(plain->Execute("Select Value From SchemaInfo Where Name = 'Application'")), "Dispatch");
-}
-
 TEST(DatabaseFiles, TheSchemaScriptRunsInsideTheCallersTransaction) {
     EmbeddedConnection db(ScratchPath("schema", ".db"), {.create = true});
     db.BeginTrans();
@@ -88,10 +77,15 @@ TEST(DatabaseFiles, MakingRefusesAnExistingFileAndCleansUpAFailure) {
                 HasSubstr("SchemaInfo"));
     EXPECT_FALSE(exists(anonymous));
 
-    // An empty file, as a temporary-name call leaves it, may be filled.
+    // An empty file, as a temporary-name call leaves it, may be filled; it opens with the application's settings.
     const std::string empty = Written("");
-    EXPECT_NO_THROW(CreateDatabaseFromScripts(empty, {SchemaScript()}));
-    EXPECT_NO_THROW(OpenDatabase(empty));
+    CreateDatabaseFromScripts(empty, {SchemaScript()});
+    auto made = OpenEmbedded(empty);
+    EXPECT_TRUE(IsDispatchDatabase(*made));
+    EXPECT_EQ(RowsText(made->ExecuteNative("PRAGMA journal_mode")), "wal");
+    EXPECT_EQ(RowsText(made->ExecuteNative("PRAGMA foreign_keys")), "1");
+    EXPECT_EQ(RowsText(OpenDatabase(empty)->Execute("Select Value From SchemaInfo Where Name = 'Application'")),
+              "Dispatch");
 }
 
 TEST(DatabaseFiles, ACopyIsAConsistentPrivateSnapshot) {

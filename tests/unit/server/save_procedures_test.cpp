@@ -145,12 +145,10 @@ TEST_F(SalesConfirmations, PendingGoesDownLineByLineAndNeverBelowZero) {
     // and a free one. Confirmation 4 holds Marie at 48 pending.
     db().ExecuteScript(
         "INSERT INTO SODetail (SOLineID, SONumber, Product_Code, SalePrice, Quantity, Pending, UOM, UOMQty, UOMPrice) "
-        "VALUES "
-        "(101, 1, 'FD001', 9.00, 48, 48, 1, 48, 9.00), (102, 1, 'FD001', 0, 24, 24, 2, 1, 0);");
+        "VALUES (101, 1, 'FD001', 9.00, 48, 48, 1, 48, 9.00), (102, 1, 'FD001', 0, 24, 24, 2, 1, 0);");
     const std::string pending =
-        "SELECT group_concat(SOLineID || '=' || Pending, ' ') FROM "
-        "(SELECT * FROM SODetail WHERE Product_Code = 'FD001' AND Pending > 0 OR SOLineID IN (1, 11, 101, 102) "
-        "ORDER BY SOLineID)";
+        "SELECT group_concat(SOLineID || '=' || Pending, ' ') FROM (SELECT * FROM SODetail WHERE Product_Code = "
+        "'FD001' AND Pending > 0 OR SOLineID IN (1, 11, 101, 102) ORDER BY SOLineID)";
     auto lower = [&](double quantity, const std::string& confirmations, int free) {
         return Call("sp_update_sopending",
                     {{"fd001", VarChar}, {quantity, Double}, {confirmations, VarChar}, {free, Integer}});

@@ -11,10 +11,8 @@ namespace {
 class SaveDetail : public SaveDatabase {
 protected:
     std::string Batches(const std::string& codes) {
-        return Text(
-            "SELECT group_concat(Batch_Code || '=' || Quantity, ' ') FROM (SELECT Batch_Code, Quantity FROM "
-            "Batch_Products WHERE Batch_Code IN (" +
-            codes + ") ORDER BY Batch_Code)");
+        const std::string batches = "SELECT * FROM Batch_Products WHERE Batch_Code IN (" + codes + ") ORDER BY 1";
+        return Text("SELECT group_concat(Batch_Code || '=' || Quantity, ' ') FROM (" + batches + ")");
     }
     // A new note of the usual customer, for the test's lines.
     const long long note = NewNote();

@@ -63,8 +63,11 @@ TEST(ServerConversions, TakeWhatTheServerTookAndRefuseTheRest) {
         {ToServerDateTime, platform::DateTime(2026, 11, 22, 23, 59, 59), "2026-11-22 23:59:59"},
         {ToServerDateTime, "2026-11-22", "2026-11-22 00:00:00"},
         {ToServerDateTime, "", "1900-01-01 00:00:00"}};
-    for (const auto& [convert, value, expected] : cases)
-        EXPECT_EQ(convert(value), expected) << platform::ToText(value) << " to " << platform::ToText(expected);
+    for (const auto& [convert, value, expected] : cases) {
+        const Value result = convert(value);
+        EXPECT_EQ(result, expected) << "'" << platform::ToText(value) << "' gave '" << platform::ToText(result)
+                                    << "' instead of '" << platform::ToText(expected) << "'";
+    }
 
     const std::tuple<Conversion, Value, std::string> refusals[] = {
         {ToServerInt, "12.5", "Conversion failed when converting the varchar value '12.5' to data type int."},
@@ -73,7 +76,7 @@ TEST(ServerConversions, TakeWhatTheServerTookAndRefuseTheRest) {
         {ToServerBit, "yes", "Conversion failed when converting the varchar value 'yes' to data type bit."},
         {ToServerDateTime, "soon", "Conversion failed when converting date and/or time from character string."}};
     for (const auto& [convert, value, message] : refusals)
-        EXPECT_EQ(ServerError([&] { convert(value); }), kDatabaseError + message);
+        EXPECT_EQ(ServerError([&] { convert(value); }), kDatabaseError + message) << platform::ToText(value);
 }
 
 TEST(ProcedureArguments, ReadsByPositionWithDefaults) {

@@ -1,18 +1,25 @@
 // Opening, making and copying database files: what is not ours is refused and
 // left as it was, and a copy is a consistent snapshot.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
 #include <fstream>
 #include <iterator>
-
-#include <gtest/gtest.h>
 
 #include "platform/runtime_error.h"
 #include "server/database_files.h"
 #include "server/schema.h"
 #include "server_test_support.h"
+#include "support/scratch_files.h"
 
 namespace server {
 namespace {
 
+using std::filesystem::exists;
+using test_support::ScratchPath;
+using ::testing::HasSubstr;
+using testkit::Refusal;
 using testkit::RowsText;
 
 std::string Contents(const std::string& path) {
@@ -20,25 +27,15 @@ std::string Contents(const std::string& path) {
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
-void Write(const std::string& path, const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
-
-TEST(DatabaseFiles, AMadeDatabaseOpensWithItsSettings) {
-    testkit::ScratchFolder folder;
-    const std::string path = folder.File("made.db");
-    CreateDatabaseFromScripts(path, {testkit::SmallSchema()});
-    auto connection = OpenEmbedded(path);
-    EXPECT_TRUE(IsDispatchDatabase(*connection));
-    EXPECT_EQ(RowsText(connection->ExecuteNative("PRAGMA journal_mode")), "wal");
-    EXPECT_EQ(RowsText(connection->ExecuteNative("PRAGMA foreign_keys")), "1");
-    platform::ConnectionPtr plain = OpenDatabase(path);
-    EXPECT_EQ(RowsText(plain->Execute("Select count(*) From Customer")), "2");
+// A new scratch file holding the text.
+std::string Written(const std::string& text) {
+    const std::string path = ScratchPath("written");
+    std::ofstream(path, std::ios::binary) << text;
+    return path;
 }
 
 TEST(DatabaseFiles, TheSchemaScriptRunsInsideTheCallersTransaction) {
-    testkit::ScratchFolder folder;
-    EmbeddedConnection::Options create;
-    create.create = true;
-    EmbeddedConnection db(folder.File("schema.db"), create);
+    EmbeddedConnection db(ScratchPath("schema", ".db"), {.create = true});
     db.BeginTrans();
     db.ExecuteScript(SchemaScript());
     db.RollbackTrans();  // refused, were the transaction already ended by a COMMIT in the script
@@ -46,87 +43,75 @@ TEST(DatabaseFiles, TheSchemaScriptRunsInsideTheCallersTransaction) {
 }
 
 TEST(DatabaseFiles, RefusesWhatIsNotOursAndLeavesItAlone) {
-    testkit::ScratchFolder folder;
-    EXPECT_EQ(testkit::Refusal([&] { OpenDatabase(folder.File("missing.db")); }),
-              "The database file '" + folder.File("missing.db") + "' does not exist.");
-    EXPECT_FALSE(std::filesystem::exists(folder.File("missing.db")));
+    const std::string missing = ScratchPath("missing", ".db");
+    EXPECT_EQ(Refusal([&] { OpenDatabase(missing); }), "The database file '" + missing + "' does not exist.");
+    EXPECT_FALSE(exists(missing));
 
-    const std::string text = folder.File("notes.txt");
-    Write(text, "These are not the rows you are looking for.\n");
-    EXPECT_NE(testkit::Refusal([&] { OpenDatabase(text); }).find("is not a dispatch database"), std::string::npos);
+    const std::string text = Written("These are not the rows you are looking for.\n");
+    EXPECT_THAT(Refusal([&] { OpenDatabase(text); }), HasSubstr("is not a dispatch database"));
     EXPECT_EQ(Contents(text), "These are not the rows you are looking for.\n");
 
-    const std::string foreign = folder.File("foreign.db");
-    {
-        EmbeddedConnection::Options create;
-        create.create = true;
-        EmbeddedConnection other(foreign, create);
-        other.ExecuteScript(
-            "CREATE TABLE SchemaInfo (Name TEXT, Value TEXT); "
-            "INSERT INTO SchemaInfo VALUES ('Application', 'Payroll');");
-    }
-    EXPECT_EQ(testkit::Refusal([&] { OpenDatabase(foreign); }), "'" + foreign + "' is not a dispatch database.");
+    const std::string foreign = ScratchPath("foreign", ".db");
+    EmbeddedConnection(foreign, {.create = true})
+        .ExecuteScript(
+            "CREATE TABLE SchemaInfo (Name TEXT, Value TEXT); INSERT INTO SchemaInfo VALUES "
+            "('Application', 'Payroll');");
+    EXPECT_EQ(Refusal([&] { OpenDatabase(foreign); }), "'" + foreign + "' is not a dispatch database.");
 }
 
 TEST(DatabaseFiles, MakingRefusesAnExistingFileAndCleansUpAFailure) {
-    testkit::ScratchFolder folder;
-    const std::string existing = folder.File("existing.db");
-    Write(existing, "keep me");
-    EXPECT_NE(
-        testkit::Refusal([&] { CreateDatabaseFromScripts(existing, {testkit::SmallSchema()}); }).find("exists already"),
-        std::string::npos);
+    const std::string existing = Written("keep me");
+    EXPECT_THAT(Refusal([&] { CreateDatabaseFromScripts(existing, {SchemaScript()}); }), HasSubstr("exists already"));
     EXPECT_EQ(Contents(existing), "keep me");
 
-    const std::string broken = folder.File("broken.db");
-    EXPECT_NE(testkit::Refusal([&] {
-                  CreateDatabaseFromScripts(broken, {testkit::SmallSchema(), "CREATE TABLE Customer (x);"});
-              }).find("already exists"),
-              std::string::npos);
-    EXPECT_FALSE(std::filesystem::exists(broken));
-    EXPECT_FALSE(std::filesystem::exists(broken + "-wal"));
+    const std::string broken = ScratchPath("broken", ".db");
+    EXPECT_THAT(Refusal([&] {
+                    CreateDatabaseFromScripts(broken, {SchemaScript(), "CREATE TABLE Customer (x);"});
+                }),
+                HasSubstr("already exists"));
+    EXPECT_FALSE(exists(broken));
+    EXPECT_FALSE(exists(broken + "-wal"));
 
-    const std::string anonymous = folder.File("anonymous.db");
-    EXPECT_NE(
-        testkit::Refusal([&] { CreateDatabaseFromScripts(anonymous, {"CREATE TABLE t (a);"}); }).find("SchemaInfo"),
-        std::string::npos);
-    EXPECT_FALSE(std::filesystem::exists(anonymous));
+    const std::string anonymous = ScratchPath("anonymous", ".db");
+    EXPECT_THAT(Refusal([&] { CreateDatabaseFromScripts(anonymous, {"CREATE TABLE t (a);"}); }),
+                HasSubstr("SchemaInfo"));
+    EXPECT_FALSE(exists(anonymous));
 
-    // An empty file, as a temporary-name call leaves it, may be filled.
-    const std::string empty = folder.File("empty.db");
-    Write(empty, "");
-    EXPECT_NO_THROW(CreateDatabaseFromScripts(empty, {testkit::SmallSchema()}));
-    EXPECT_NO_THROW(OpenDatabase(empty));
+    // An empty file, as a temporary-name call leaves it, may be filled; it opens with the application's settings.
+    const std::string empty = Written("");
+    CreateDatabaseFromScripts(empty, {SchemaScript()});
+    auto made = OpenEmbedded(empty);
+    EXPECT_TRUE(IsDispatchDatabase(*made));
+    EXPECT_EQ(RowsText(made->ExecuteNative("PRAGMA journal_mode")), "wal");
+    EXPECT_EQ(RowsText(made->ExecuteNative("PRAGMA foreign_keys")), "1");
+    EXPECT_EQ(RowsText(OpenDatabase(empty)->Execute("Select Value From SchemaInfo Where Name = 'Application'")),
+              "Dispatch");
 }
 
 TEST(DatabaseFiles, ACopyIsAConsistentPrivateSnapshot) {
-    testkit::ScratchFolder folder;
-    ProcedureRegistry registry;
-    const std::string source = folder.File("source.db");
-    auto writer = testkit::MakeSmallDatabase(source, registry);
+    const std::string source = ScratchPath("source", ".db"), copied = ScratchPath("copy", ".db");
+    auto writer = CreateDatabase(source, true);
     writer->Execute("Update Customer Set CreditLimit = 1 Where CustomerID = 'C001'");
+    const std::string details = RowsText(writer->ExecuteNative("SELECT count(*) FROM DispatchDetail"));
 
     // A clerk in the middle of a save: what is not committed is not copied.
     writer->BeginTrans();
     writer->Execute("Delete From DispatchDetail");
-    CopyDatabase(source, folder.File("copy.db"));
+    CopyDatabase(source, copied);
     writer->RollbackTrans();
 
-    auto copy = OpenEmbedded(folder.File("copy.db"));
-    EXPECT_EQ(RowsText(copy->ExecuteNative("SELECT count(*) FROM DispatchDetail")), "2");
+    auto copy = OpenEmbedded(copied);
+    EXPECT_EQ(RowsText(copy->ExecuteNative("SELECT count(*) FROM DispatchDetail")), details);
     EXPECT_EQ(RowsText(copy->ExecuteNative("SELECT CreditLimit FROM Customer WHERE CustomerID = 'C001'")), "1r");
     EXPECT_EQ(RowsText(copy->ExecuteNative("PRAGMA journal_mode")), "wal");
 
-    copy->Execute("Delete From Customer Where CustomerID = 'C002'");
-    EXPECT_EQ(RowsText(writer->ExecuteNative("SELECT count(*) FROM Customer")), "2");
+    copy->Execute("Update Customer Set CreditLimit = 2 Where CustomerID = 'C001'");
+    EXPECT_EQ(RowsText(writer->ExecuteNative("SELECT CreditLimit FROM Customer WHERE CustomerID = 'C001'")), "1r");
 
-    EXPECT_NE(testkit::Refusal([&] { CopyDatabase(source, folder.File("copy.db")); }).find("exists already"),
-              std::string::npos);
-    Write(folder.File("plain.txt"), "text");
-    EXPECT_NE(testkit::Refusal([&] {
-                  CopyDatabase(folder.File("plain.txt"), folder.File("copy2.db"));
-              }).find("not a dispatch database"),
-              std::string::npos);
-    EXPECT_FALSE(std::filesystem::exists(folder.File("copy2.db")));
+    EXPECT_THAT(Refusal([&] { CopyDatabase(source, copied); }), HasSubstr("exists already"));
+    const std::string second = ScratchPath("copy", ".db");
+    EXPECT_THAT(Refusal([&] { CopyDatabase(Written("text"), second); }), HasSubstr("not a dispatch database"));
+    EXPECT_FALSE(exists(second));
 }
 
 }  // namespace

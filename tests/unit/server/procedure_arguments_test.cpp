@@ -2,6 +2,8 @@
 // connection library, then converted to the declared type by the server.
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "platform/convert.h"
 #include "platform/runtime_error.h"
 #include "server/procedure_arguments.h"
@@ -34,51 +36,47 @@ TEST(CoerceToParameterType, MakesTheValueIntoItsTypeCode) {
     EXPECT_EQ(CoerceToParameterType({"2026-11-22", adtype::Date}), Value(platform::DateSerial(2026, 11, 22)));
     EXPECT_TRUE(CoerceToParameterType({Value::Null(), adtype::Integer}).IsNull());
     EXPECT_TRUE(CoerceToParameterType({Value(), adtype::VarChar}).IsNull());
-    EXPECT_EQ(ServerError([] {
-                  CoerceToParameterType({"abc", adtype::Integer});
-              }),
-              "3421 Application uses a value of the wrong type for the current operation.");
-    EXPECT_EQ(ServerError([] {
-                  CoerceToParameterType({"31/31/2026", adtype::Date});
-              }),
-              "3421 Application uses a value of the wrong type for the current operation.");
+    for (const platform::Parameter& bad : {platform::Parameter{"abc", adtype::Integer}, {"31/31/2026", adtype::Date}})
+        EXPECT_EQ(ServerError([&] { CoerceToParameterType(bad); }),
+                  "3421 Application uses a value of the wrong type for the current operation.")
+            << platform::ToText(bad.value);
 }
 
-TEST(ServerConversions, ToInt) {
-    EXPECT_EQ(ToServerInt(Value("12")), Value(12));
-    EXPECT_EQ(ToServerInt(Value(" -7 ")), Value(-7));
-    EXPECT_EQ(ToServerInt(Value("")), Value(0));
-    EXPECT_EQ(ToServerInt(Value(12.7)), Value(12));  // the server truncates
-    EXPECT_EQ(ToServerInt(Value(-12.7)), Value(-12));
-    EXPECT_TRUE(ToServerInt(Value::Null()).IsNull());
-    EXPECT_EQ(ServerError([] { ToServerInt(Value("12.5")); }),
-              kDatabaseError + "Conversion failed when converting the varchar value '12.5' to data type int.");
-    EXPECT_EQ(ServerError([] { ToServerInt(Value(3e9)); }),
-              kDatabaseError + "Arithmetic overflow error converting expression to data type int.");
-}
+TEST(ServerConversions, TakeWhatTheServerTookAndRefuseTheRest) {
+    using Conversion = Value (*)(const Value&);
+    const std::tuple<Conversion, Value, Value> cases[] = {
+        {ToServerInt, "12", 12},
+        {ToServerInt, " -7 ", -7},
+        {ToServerInt, "", 0},
+        {ToServerInt, 12.7, 12},  // the server truncates
+        {ToServerInt, -12.7, -12},
+        {ToServerInt, Value::Null(), Value::Null()},
+        {ToServerFloat, " 12.5", 12.5},
+        {ToServerFloat, "1e3", 1000.0},
+        {ToServerFloat, 3, 3.0},
+        {ToServerText, 12, "12"},
+        {ToServerText, 0.1 + 0.2, "0.3"},
+        {ToServerText, "as is ", "as is "},
+        {ToServerBit, "TRUE", 1},
+        {ToServerBit, 2, 1},
+        {ToServerBit, "0", 0},
+        {ToServerDateTime, platform::DateTime(2026, 11, 22, 23, 59, 59), "2026-11-22 23:59:59"},
+        {ToServerDateTime, "2026-11-22", "2026-11-22 00:00:00"},
+        {ToServerDateTime, "", "1900-01-01 00:00:00"}};
+    for (const auto& [convert, value, expected] : cases) {
+        const Value result = convert(value);
+        EXPECT_EQ(result, expected) << "'" << platform::ToText(value) << "' gave '" << platform::ToText(result)
+                                    << "' instead of '" << platform::ToText(expected) << "'";
+    }
 
-TEST(ServerConversions, ToFloatTextAndBit) {
-    EXPECT_EQ(ToServerFloat(Value(" 12.5")), Value(12.5));
-    EXPECT_EQ(ToServerFloat(Value("1e3")), Value(1000.0));
-    EXPECT_EQ(ToServerFloat(Value(3)), Value(3.0));
-    EXPECT_EQ(ServerError([] { ToServerFloat(Value("inf")); }),
-              kDatabaseError + "Error converting data type varchar to float.");
-    EXPECT_EQ(ToServerText(Value(12)), Value("12"));
-    EXPECT_EQ(ToServerText(Value(0.1 + 0.2)), Value("0.3"));
-    EXPECT_EQ(ToServerText(Value("as is ")), Value("as is "));
-    EXPECT_EQ(ToServerBit(Value("TRUE")), Value(1));
-    EXPECT_EQ(ToServerBit(Value(2)), Value(1));
-    EXPECT_EQ(ToServerBit(Value("0")), Value(0));
-    EXPECT_EQ(ServerError([] { ToServerBit(Value("yes")); }),
-              kDatabaseError + "Conversion failed when converting the varchar value 'yes' to data type bit.");
-}
-
-TEST(ServerConversions, ToDateTimeText) {
-    EXPECT_EQ(ToServerDateTime(Value(platform::DateTime(2026, 11, 22, 23, 59, 59))), Value("2026-11-22 23:59:59"));
-    EXPECT_EQ(ToServerDateTime(Value("2026-11-22")), Value("2026-11-22 00:00:00"));
-    EXPECT_EQ(ToServerDateTime(Value("")), Value("1900-01-01 00:00:00"));
-    EXPECT_EQ(ServerError([] { ToServerDateTime(Value("soon")); }),
-              kDatabaseError + "Conversion failed when converting date and/or time from character string.");
+    const std::tuple<Conversion, Value, std::string> refusals[] = {
+        {ToServerInt, "12.5", "Conversion failed when converting the varchar value '12.5' to data type int."},
+        {ToServerInt, 3e9, "Arithmetic overflow error converting expression to data type int."},
+        {ToServerFloat, "inf", "Error converting data type varchar to float."},
+        {ToServerBit, "yes", "Conversion failed when converting the varchar value 'yes' to data type bit."},
+        {ToServerDateTime, "soon", "Conversion failed when converting date and/or time from character string."}};
+    for (const auto& [convert, value, message] : refusals)
+        EXPECT_EQ(ServerError([&] { convert(value); }), kDatabaseError + message) << platform::ToText(value);
 }
 
 TEST(ProcedureArguments, ReadsByPositionWithDefaults) {

@@ -38,25 +38,17 @@ TEST_F(SaveAbstract, StoresTheNoteAndSpendsTheNextNumberOfTheSerial) {
     ASSERT_EQ(results.size(), 2u) << "it writes first, so the row count comes ahead of the answer";
     EXPECT_EQ(testkit::RowsText(results.back()), "10|50");
     EXPECT_EQ(Text(kLastDispatchNumber), "50");
-    EXPECT_EQ(Text("SELECT DispatchDate, CustomerID, BillingAddress, ShippingAddress, Status, RefNumber, NewRefNumber, "
-                   "OriginalReference, Memo1, Memo2, Memo3, DocReference, SalesmanID, BeatID, GroupID, UserName "
-                   "FROM DispatchAbstract WHERE DispatchID = 10"),
-              "D:2024-03-01 10:45:00|C005|12 Gandhi Road|Godown 3|1|1|SC101||Memo one|Memo two||TN/DN/43|1|1|1,2|");
-    EXPECT_EQ(Text("SELECT COUNT(*) FROM DispatchAbstract WHERE DispatchID = 10 AND "
-                   "CreationTime >= datetime('now', 'localtime', '-1 minute')"),
-              "1");
+    // Every value the screen sent, and the note stamped with the time it was made (the final 1).
+    EXPECT_EQ(
+        Text("SELECT DispatchDate, CustomerID, BillingAddress, ShippingAddress, Status, RefNumber, NewRefNumber, "
+             "OriginalReference, Memo1, Memo2, Memo3, DocReference, SalesmanID, BeatID, GroupID, UserName, "
+             "CreationTime >= datetime('now', 'localtime', '-1 minute') FROM DispatchAbstract WHERE DispatchID = 10"),
+        "D:2024-03-01 10:45:00|C005|12 Gandhi Road|Godown 3|1|1|SC101||Memo one|Memo two||TN/DN/43|1|1|1,2||1");
 
     // A note of all categories has no group; the proposal moves on with the serial.
     EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract", AbstractParameters(false)).back()), "11|51");
     EXPECT_EQ(Text("SELECT GroupID FROM DispatchAbstract WHERE DispatchID = 11"), "-1");
     EXPECT_EQ(Answer("sp_get_NewDispatchID", {}).AsInteger(), 52);
-
-    // The caller's rollback takes the number back with the note.
-    db().BeginTrans();
-    EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract", AbstractParameters(true)).back()), "12|52");
-    db().RollbackTrans();
-    EXPECT_EQ(Text(kLastDispatchNumber), "51");
-    EXPECT_EQ(Text("SELECT COUNT(*) FROM DispatchAbstract"), "11");
 }
 
 TEST_F(SaveAbstract, TheReplacementOfAnAmendedNoteKeepsTheOldNumber) {
@@ -152,12 +144,10 @@ TEST_F(SalesConfirmations, PendingGoesDownLineByLineAndNeverBelowZero) {
     // and a free one. Confirmation 4 holds Marie at 48 pending.
     db().ExecuteScript(
         "INSERT INTO SODetail (SOLineID, SONumber, Product_Code, SalePrice, Quantity, Pending, UOM, UOMQty, UOMPrice) "
-        "VALUES "
-        "(101, 1, 'FD001', 9.00, 48, 48, 1, 48, 9.00), (102, 1, 'FD001', 0, 24, 24, 2, 1, 0);");
+        "VALUES (101, 1, 'FD001', 9.00, 48, 48, 1, 48, 9.00), (102, 1, 'FD001', 0, 24, 24, 2, 1, 0);");
     const std::string pending =
-        "SELECT group_concat(SOLineID || '=' || Pending, ' ') FROM "
-        "(SELECT * FROM SODetail WHERE Product_Code = 'FD001' AND Pending > 0 OR SOLineID IN (1, 11, 101, 102) "
-        "ORDER BY SOLineID)";
+        "SELECT group_concat(SOLineID || '=' || Pending, ' ') FROM (SELECT * FROM SODetail WHERE Product_Code = "
+        "'FD001' AND Pending > 0 OR SOLineID IN (1, 11, 101, 102) ORDER BY SOLineID)";
     auto lower = [&](double quantity, const std::string& confirmations, int free) {
         return Call("sp_update_sopending",
                     {{"fd001", VarChar}, {quantity, Double}, {confirmations, VarChar}, {free, Integer}});

@@ -2,7 +2,6 @@
 
 #include "platform/convert.h"
 #include "platform/runtime_error.h"
-#include "server/database_files.h"
 
 namespace server::save_test {
 
@@ -46,13 +45,9 @@ platform::Value FirstAnswer(const std::vector<platform::ResultSet>& results) {
     return platform::Value::Null();
 }
 
-SaveDatabase::SaveDatabase() : path_(folder_.File("save.db")), db_(CreateDatabase(path_, true)) {}
-
-platform::Date SaveDatabase::Today() { return platform::DateOnly(testkit::LocalNow()); }
-
 std::vector<platform::ResultSet> SaveDatabase::Call(const std::string& name,
                                                     const platform::ParameterList& parameters) {
-    return db_->CallProcedure(name, parameters);
+    return db().CallProcedure(name, parameters);
 }
 
 platform::Value SaveDatabase::Answer(const std::string& name, const platform::ParameterList& parameters) {
@@ -62,8 +57,6 @@ platform::Value SaveDatabase::Answer(const std::string& name, const platform::Pa
 std::string SaveDatabase::Refusal(const std::string& name, const platform::ParameterList& parameters) {
     return testkit::Refusal([&] { Call(name, parameters); });
 }
-
-std::string SaveDatabase::Text(const std::string& sql) { return testkit::RowsText(db_->ExecuteNative(sql)); }
 
 std::string SaveDatabase::NoteRows(const std::string& columns, long long dispatchID, const std::string& rest) {
     return Text("SELECT " + columns + " FROM DispatchDetail WHERE DispatchID = " + std::to_string(dispatchID) + " " +
@@ -77,12 +70,12 @@ long long SaveDatabase::NewNote(const std::string& customer, EmbeddedConnection*
     parameters[2] = {customer, VarChar};
     parameters[5] = {2, Integer};
     parameters[11] = parameters[12] = {0, Integer};
-    return FirstAnswer((on ? *on : *db_).CallProcedure("sp_Save_DispatchAbstract", parameters)).AsInteger();
+    return FirstAnswer((on ? *on : db()).CallProcedure("sp_Save_DispatchAbstract", parameters)).AsInteger();
 }
 long long SaveDatabase::StoreLine(const Line& line, bool customerPrice, bool longList, EmbeddedConnection* on) {
     const char* name = customerPrice ? "sp_Save_dispatchDetail_csp_UOM_QAX" : "sp_Save_dispatchdetail_UOM_QAX";
     const platform::Value answer =
-        FirstAnswer((on ? *on : *db_).CallProcedure(name, line.Parameters(customerPrice, longList)));
+        FirstAnswer((on ? *on : db()).CallProcedure(name, line.Parameters(customerPrice, longList)));
     return static_cast<long long>(platform::ToNumber(answer));
 }
 

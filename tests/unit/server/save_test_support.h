@@ -1,11 +1,10 @@
-// Shared by the tests of the save's server objects: a demo database of today's date
-// in a scratch folder, the procedures called as the screen calls them, and a
-// dispatch line with the values the screen would send for it.
+// Shared by the tests of the save's server objects: the procedures called as the
+// screen calls them on the demo database, and a dispatch line with the values the
+// screen would send for it.
 #pragma once
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 
 #include "platform/database.h"
@@ -47,13 +46,8 @@ struct Line {
     platform::ParameterList Parameters(bool customerPrice, bool longList) const;
 };
 
-class SaveDatabase : public ::testing::Test {
+class SaveDatabase : public testkit::DemoDatabase {
 public:
-    SaveDatabase();
-
-    EmbeddedConnection& db() { return *db_; }
-    const std::string& Path() const { return path_; }
-
     // Every result of the call, as the server sends them.
     std::vector<platform::ResultSet> Call(const std::string& name, const platform::ParameterList& parameters);
     // Field 0 of the first result that has rows, which is what the screen's host takes
@@ -61,9 +55,6 @@ public:
     platform::Value Answer(const std::string& name, const platform::ParameterList& parameters);
     // The refusal the call raises; "(no error)" when it goes through.
     std::string Refusal(const std::string& name, const platform::ParameterList& parameters);
-
-    // SQLite's own query, as "a|b;c|d" (see testkit::RowsText).
-    std::string Text(const std::string& sql);
 
     // A new note of the customer through sp_Save_DispatchAbstract; its DispatchID. Both
     // calls go through the test's own connection unless given another.
@@ -73,13 +64,6 @@ public:
                         EmbeddedConnection* on = nullptr);
     // The rows of one note, as Text gives them.
     std::string NoteRows(const std::string& columns, long long dispatchID, const std::string& rest = "");
-
-    static platform::Date Today();
-
-private:
-    testkit::ScratchFolder folder_;
-    std::string path_;
-    std::shared_ptr<EmbeddedConnection> db_;
 };
 
 // Field 0 of the first result with rows.

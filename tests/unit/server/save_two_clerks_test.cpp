@@ -28,14 +28,8 @@ protected:
             start.arrive_and_wait();
             connection->BeginTrans();
             result.dispatchID = NewNote("C005", connection.get());
-            const Line carton{.dispatchID = result.dispatchID,
-                              .item = "BV002",
-                              .batch = "MJ10",
-                              .originalPrice = 85,
-                              .baseQuantity = 6,
-                              .unit = 6,
-                              .unitQuantity = 1,
-                              .unitPrice = 510};
+            const Line carton{
+                .dispatchID = result.dispatchID, .item = "BV002", .batch = "MJ10", .baseQuantity = 6, .unit = 6};
             result.stored = StoreLine(carton, false, true, connection.get());
             connection->CommitTrans();
         } catch (const platform::RuntimeError& error) {

@@ -10,7 +10,6 @@
 
 namespace {
 
-using platform::DateSerial;
 using server::ExpandDemoDates;
 
 TEST(DemoDates, CountWholeDaysFromTodayAndLeaveTheRestAlone) {
@@ -24,11 +23,6 @@ TEST(DemoDates, CountWholeDaysFromTodayAndLeaveTheRestAlone) {
               "VALUES ('2024-03-01 09:05:00', 'x', '2024-03-01 00:00:00');");
     for (const char* bad : {"{X-1}", "{T*2}", "{T} and {T+1 25:00}", "{T} then {"})
         EXPECT_THROW(ExpandDemoDates(bad, today), std::invalid_argument) << bad;
-
-    const std::string script = server::DemoDataScript(DateSerial(2024, 3, 1));
-    EXPECT_EQ(script, server::DemoDataScript(platform::DateTime(2024, 3, 1, 18, 0, 0)));
-    EXPECT_NE(script, server::DemoDataScript(DateSerial(2024, 3, 2)));
-    EXPECT_EQ(script.find('{'), std::string::npos);
 }
 
 TEST(WithTypeChecks, ChecksColumnLinesAndLeavesOtherTextAlone) {

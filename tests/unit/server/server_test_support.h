@@ -1,8 +1,9 @@
-// Shared by the server's tests: a scratch folder, a small database of the
-// application's own shape, and results written as text for comparison.
+// Shared by the server's tests: the demo database of today's date in a scratch file,
+// and results written as text for comparison.
 #pragma once
 
-#include <filesystem>
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <memory>
 #include <string>
@@ -12,25 +13,6 @@
 #include "server/procedure_registry.h"
 
 namespace server::testkit {
-
-// A fresh folder, removed with everything in it at the end of the test.
-class ScratchFolder {
-public:
-    ScratchFolder();
-    ~ScratchFolder();
-    std::string File(const std::string& name) const { return (path_ / name).string(); }
-
-private:
-    std::filesystem::path path_;
-};
-
-// Customers, items, batches, dispatches and the rest, a few rows each, with the
-// column types and collations of the real schema where they matter.
-std::string SmallSchema();
-
-// A new database with SmallSchema at path, opened with the given registry.
-std::shared_ptr<EmbeddedConnection> MakeSmallDatabase(const std::string& path, const ProcedureRegistry& registry,
-                                                      int busyTimeoutMs = 5000);
 
 // Rows as "a|b;c|d": Null as NULL, dates as 'YYYY-MM-DD HH:MM:SS' with a D: prefix.
 std::string RowsText(const platform::ResultSet& result);
@@ -42,5 +24,22 @@ std::string Refusal(const std::function<void()>& action);
 
 // The local date and time, to the second.
 platform::Date LocalNow();
+
+// A fresh demo database dated from today in a scratch file, through the default
+// registry; other connections to Path() may bring their own.
+class DemoDatabase : public ::testing::Test {
+public:
+    DemoDatabase();
+
+    EmbeddedConnection& db() { return *db_; }
+    const std::string& Path() const { return path_; }
+    // SQLite's own query, as RowsText gives it.
+    std::string Text(const std::string& sql) { return RowsText(db_->ExecuteNative(sql)); }
+    static platform::Date Today();
+
+private:
+    std::string path_;
+    std::shared_ptr<EmbeddedConnection> db_;
+};
 
 }  // namespace server::testkit

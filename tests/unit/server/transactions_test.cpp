@@ -11,27 +11,21 @@ namespace {
 
 using testkit::RowsText;
 
-class Transactions : public ::testing::Test {
+// Two clerks on one file; the second gives up on a lock after 200 ms.
+class Transactions : public testkit::DemoDatabase {
 protected:
-    Transactions() {
-        first_ = testkit::MakeSmallDatabase(folder_.File("shared.db"), registry_);
-        second_ = std::make_shared<EmbeddedConnection>(folder_.File("shared.db"),
-                                                       EmbeddedConnection::Options{.busyTimeoutMs = 200}, registry_);
-    }
-
     std::string Stock(EmbeddedConnection& connection) {
         return RowsText(connection.ExecuteNative("SELECT Quantity FROM Batch_Products WHERE Batch_Code = 7"));
     }
 
-    testkit::ScratchFolder folder_;
-    ProcedureRegistry registry_;
-    std::shared_ptr<EmbeddedConnection> first_;
-    std::shared_ptr<EmbeddedConnection> second_;
+    EmbeddedConnection& first_ = db();
+    std::unique_ptr<EmbeddedConnection> second_ =
+        std::make_unique<EmbeddedConnection>(Path(), EmbeddedConnection::Options{.busyTimeoutMs = 200});
 };
 
 TEST_F(Transactions, BeginTakesTheWriteLockAtOnce) {
-    first_->BeginTrans();
-    EXPECT_TRUE(first_->InTransaction());
+    first_.BeginTrans();
+    EXPECT_TRUE(first_.InTransaction());
 
     // The second clerk's writer waits out its busy timeout, then fails.
     auto started = std::chrono::steady_clock::now();
@@ -43,47 +37,44 @@ TEST_F(Transactions, BeginTakesTheWriteLockAtOnce) {
     EXPECT_FALSE(second_->InTransaction());
 
     // Readers are not held up, and see what was committed.
-    first_->Execute("UPDATE Batch_Products SET Quantity = Quantity - 40 WHERE Batch_Code = 7");
-    EXPECT_EQ(Stock(*second_), "100r");
-    first_->CommitTrans();
-    EXPECT_FALSE(first_->InTransaction());
-    EXPECT_EQ(Stock(*second_), "60r");
+    first_.Execute("UPDATE Batch_Products SET Quantity = Quantity - 40 WHERE Batch_Code = 7");
+    EXPECT_EQ(Stock(*second_), "144r");
+    first_.CommitTrans();
+    EXPECT_FALSE(first_.InTransaction());
+    EXPECT_EQ(Stock(*second_), "104r");
 
     // With the lock released the second writer goes through.
     second_->Execute("UPDATE Batch_Products SET Quantity = Quantity - 10 WHERE Batch_Code = 7");
-    EXPECT_EQ(Stock(*first_), "50r");
+    EXPECT_EQ(Stock(first_), "94r");
 }
 
 TEST_F(Transactions, RollbackLeavesTheFileAsItWasAfterAFailedStatementInside) {
-    first_->BeginTrans();
-    first_->Execute("UPDATE Batch_Products SET Quantity = 0 WHERE Batch_Code = 7");
-    first_->Execute("Insert Into DispatchAbstract (DispatchID, CustomerID, Status) Values (9, 'C001', 2)");
-    first_->Execute("Delete From DispatchDetail");
+    const std::string details = Text("SELECT count(*) FROM DispatchDetail");
+    first_.BeginTrans();
+    first_.Execute("UPDATE Batch_Products SET Quantity = 0 WHERE Batch_Code = 7");
+    first_.Execute("Insert Into DispatchAbstract (CustomerID, DispatchDate, Status) Values ('C001', getdate(), 2)");
+    first_.Execute("Delete From DispatchDetail");
     // A row for an item that does not exist breaks a foreign key; the transaction stays open.
-    EXPECT_EQ(testkit::Refusal([&] {
-                  first_->Execute("Insert Into Batch_Products (Batch_Code, Product_Code) Values (99, 'NONE')");
-              }),
+    EXPECT_EQ(testkit::Refusal(
+                  [&] { first_.Execute("Insert Into Batch_Products (Batch_Code, Product_Code) Values (99, 'NONE')"); }),
               "FOREIGN KEY constraint failed");
-    EXPECT_TRUE(first_->InTransaction());
-    first_->RollbackTrans();
-    EXPECT_FALSE(first_->InTransaction());
+    EXPECT_TRUE(first_.InTransaction());
+    first_.RollbackTrans();
+    EXPECT_FALSE(first_.InTransaction());
 
-    first_.reset();
-    second_.reset();
-    EmbeddedConnection reopened(folder_.File("shared.db"), {}, registry_);
-    EXPECT_EQ(Stock(reopened), "100r");
-    EXPECT_EQ(RowsText(reopened.ExecuteNative("SELECT count(*) FROM DispatchAbstract")), "2");
-    EXPECT_EQ(RowsText(reopened.ExecuteNative("SELECT count(*) FROM DispatchDetail")), "2");
+    EXPECT_EQ(Stock(*second_), "144r");
+    EXPECT_EQ(RowsText(second_->ExecuteNative("SELECT count(*) FROM DispatchAbstract")), "9");
+    EXPECT_EQ(RowsText(second_->ExecuteNative("SELECT count(*) FROM DispatchDetail")), details);
 }
 
 TEST_F(Transactions, RefusesCallsOutOfOrder) {
-    EXPECT_EQ(testkit::Refusal([&] { first_->CommitTrans(); }),
+    EXPECT_EQ(testkit::Refusal([&] { first_.CommitTrans(); }),
               "The COMMIT TRANSACTION request has no corresponding BEGIN TRANSACTION.");
-    first_->BeginTrans();
-    EXPECT_EQ(testkit::Refusal([&] { first_->BeginTrans(); }), "Only one transaction can be active on this session.");
-    EXPECT_TRUE(first_->InTransaction());  // the refused call left the open one alone
-    first_->RollbackTrans();
-    EXPECT_EQ(testkit::Refusal([&] { first_->RollbackTrans(); }),
+    first_.BeginTrans();
+    EXPECT_EQ(testkit::Refusal([&] { first_.BeginTrans(); }), "Only one transaction can be active on this session.");
+    EXPECT_TRUE(first_.InTransaction());  // the refused call left the open one alone
+    first_.RollbackTrans();
+    EXPECT_EQ(testkit::Refusal([&] { first_.RollbackTrans(); }),
               "The ROLLBACK TRANSACTION request has no corresponding BEGIN TRANSACTION.");
 }
 

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "platform/convert.h"
+#include "platform/key_codes.h"
 #include "platform/runtime_error.h"
 
 namespace session::testing {
@@ -48,7 +49,7 @@ void FakeScreen::WireEvents() {
     txtCustomer.Change.Connect([this] { Log("txtCustomer.Change " + txtCustomer.Text()); });
     txtCustomer.KeyDown.Connect([this](int& code, int shift) {
         Log(fmt::format("txtCustomer.KeyDown {} {}", code, shift));
-        if (code == swallowInKeyDown) code = 0;
+        if (code == platform::keys::Enter) code = 0;
     });
     txtCustomer.KeyPress.Connect(logs("txtCustomer.KeyPress"));
     txtCustomer.KeyUp.Connect(logs("txtCustomer.KeyUp"));
@@ -101,8 +102,8 @@ void FakeScreen::MoveFocus(platform::Control& to) {
 
 platform::Control* FakeScreen::FindControl(const std::string& name, int index) {
     for (platform::Control* control :
-         std::initializer_list<platform::Control*>{&frame3, &txtCustomer, &txtInFrame, &txtLocked, &cmdSave, &cmdClose1,
-                                                   &lblTitle, &lstSO, &lstUOM, &cboType, &dtFromDate, &grid})
+         std::initializer_list<platform::Control*>{&frame3, &txtCustomer, &txtInFrame, &txtLocked, &cmdSave, &lblTitle,
+                                                   &lstSO, &lstUOM, &cboType, &dtFromDate, &grid})
         if (control->Name() == name && control->Index() == index) return control;
     return nullptr;
 }
@@ -114,7 +115,7 @@ std::optional<std::string> FakeScreen::FieldText(const std::string& name) const 
 
 void FakeScreen::Form_KeyDown(int& KeyCode, int Shift) {
     Log(fmt::format("Form_KeyDown {} {}", KeyCode, Shift));
-    if (KeyCode == swallowInPreview) KeyCode = 0;
+    if (KeyCode == platform::keys::Escape) KeyCode = 0;
 }
 
 bool FakeScreen::Close() {
@@ -124,9 +125,8 @@ bool FakeScreen::Close() {
     return false;
 }
 
-screen::ScreenForm* FakeOpener::OpenDispatch(host::PlainHost& host, platform::Date serverDate, long mode,
+screen::ScreenForm* FakeOpener::OpenDispatch(host::PlainHost& host, platform::Date serverDate, long /*mode*/,
                                              platform::Date alertDate) {
-    openings.mode = mode;
     openings.serverDate = serverDate;
     openings.alertDate = alertDate;
     auto screen = std::make_unique<FakeScreen>(host.Services());

@@ -42,7 +42,6 @@ public:
     platform::TextBox txtInFrame{*this, "txtInFrame"};
     platform::TextBox txtLocked{*this, "txtLocked"};
     platform::CommandButton cmdSave{*this, "cmdSave"};
-    platform::CommandButton cmdClose1{*this, "cmdClose", 1};
     platform::Label lblTitle{*this, "lblTitle"};
     platform::ListView lstSO{*this, "lstSO"};
     platform::ListBox lstUOM{*this, "lstUOM"};
@@ -51,9 +50,8 @@ public:
     platform::DTFlex grid{*this, "DTFlexDispatch", 8};
 
     // ---- what the test arranges and reads ----------------------------------------
+    // Besides: the preview swallows Escape, and txtCustomer's KeyDown swallows Enter.
     std::vector<std::string> events;
-    int swallowInPreview = -1;  // the preview swallows this key code
-    int swallowInKeyDown = -1;  // txtCustomer's KeyDown swallows this key code
     std::string szDocNumbers = "SC1,SC2";
 
 private:
@@ -70,7 +68,6 @@ private:
 // Opens a FakeScreen for every `open`, and remembers what it was given.
 struct FakeOpenings {
     std::vector<std::unique_ptr<FakeScreen>> screens;
-    long mode = 0;
     platform::Date serverDate, alertDate;
     std::function<void(FakeScreen&)> arrange;  // run on each new screen before it opens
 };

@@ -46,7 +46,10 @@ void FakeScreen::WireEvents() {
     };
     txtCustomer.GotFocus.Connect(logs("txtCustomer.GotFocus"));
     txtCustomer.LostFocus.Connect(logs("txtCustomer.LostFocus"));
-    txtCustomer.Change.Connect([this] { Log("txtCustomer.Change " + txtCustomer.Text()); });
+    txtCustomer.Change.Connect([this] {
+        Log("txtCustomer.Change " + txtCustomer.Text());
+        if (txtCustomer.Text() == "off") txtCustomer.Enabled = false;  // a box that turns itself off while in use
+    });
     txtCustomer.KeyDown.Connect([this](int& code, int shift) {
         Log(fmt::format("txtCustomer.KeyDown {} {}", code, shift));
         if (code == platform::keys::Enter) code = 0;
@@ -130,7 +133,6 @@ screen::ScreenForm* FakeOpener::OpenDispatch(host::PlainHost& host, platform::Da
     openings.serverDate = serverDate;
     openings.alertDate = alertDate;
     auto screen = std::make_unique<FakeScreen>(host.Services());
-    if (openings.arrange) openings.arrange(*screen);
     // As a form does while it opens: focus is set before the host can listen.
     screen->MoveFocus(screen->txtCustomer);
     return openings.screens.emplace_back(std::move(screen)).get();

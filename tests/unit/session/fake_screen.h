@@ -6,7 +6,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -50,7 +49,8 @@ public:
     platform::DTFlex grid{*this, "DTFlexDispatch", 8};
 
     // ---- what the test arranges and reads ----------------------------------------
-    // Besides: the preview swallows Escape, and txtCustomer's KeyDown swallows Enter.
+    // Besides: the preview swallows Escape, txtCustomer's KeyDown swallows Enter, and
+    // txtCustomer disables itself when "off" is typed into it.
     std::vector<std::string> events;
     std::string szDocNumbers = "SC1,SC2";
 
@@ -69,7 +69,6 @@ private:
 struct FakeOpenings {
     std::vector<std::unique_ptr<FakeScreen>> screens;
     platform::Date serverDate, alertDate;
-    std::function<void(FakeScreen&)> arrange;  // run on each new screen before it opens
 };
 
 struct FakeOpener : ScreenOpener {

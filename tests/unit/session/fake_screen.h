@@ -75,10 +75,7 @@ struct FakeOpener : ScreenOpener {
     explicit FakeOpener(FakeOpenings& openings) : openings(openings) {}
     screen::ScreenForm* OpenDispatch(host::PlainHost& host, platform::Date serverDate, long mode,
                                      platform::Date alertDate) override;
-    screen::ScreenForm* OpenCForm(host::PlainHost&, platform::Date serverDate) override {
-        openings.serverDate = serverDate;
-        return nullptr;
-    }
+    screen::ScreenForm* OpenCForm(host::PlainHost&, platform::Date) override { return nullptr; }
     FakeOpenings& openings;
 };
 

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "platform/convert.h"
+#include "platform/key_codes.h"
 #include "platform/runtime_error.h"
 
 namespace session::testing {
@@ -45,10 +46,13 @@ void FakeScreen::WireEvents() {
     };
     txtCustomer.GotFocus.Connect(logs("txtCustomer.GotFocus"));
     txtCustomer.LostFocus.Connect(logs("txtCustomer.LostFocus"));
-    txtCustomer.Change.Connect([this] { Log("txtCustomer.Change " + txtCustomer.Text()); });
+    txtCustomer.Change.Connect([this] {
+        Log("txtCustomer.Change " + txtCustomer.Text());
+        if (txtCustomer.Text() == "off") txtCustomer.Enabled = false;  // a box that turns itself off while in use
+    });
     txtCustomer.KeyDown.Connect([this](int& code, int shift) {
         Log(fmt::format("txtCustomer.KeyDown {} {}", code, shift));
-        if (code == swallowInKeyDown) code = 0;
+        if (code == platform::keys::Enter) code = 0;
     });
     txtCustomer.KeyPress.Connect(logs("txtCustomer.KeyPress"));
     txtCustomer.KeyUp.Connect(logs("txtCustomer.KeyUp"));
@@ -101,8 +105,8 @@ void FakeScreen::MoveFocus(platform::Control& to) {
 
 platform::Control* FakeScreen::FindControl(const std::string& name, int index) {
     for (platform::Control* control :
-         std::initializer_list<platform::Control*>{&frame3, &txtCustomer, &txtInFrame, &txtLocked, &cmdSave, &cmdClose1,
-                                                   &lblTitle, &lstSO, &lstUOM, &cboType, &dtFromDate, &grid})
+         std::initializer_list<platform::Control*>{&frame3, &txtCustomer, &txtInFrame, &txtLocked, &cmdSave, &lblTitle,
+                                                   &lstSO, &lstUOM, &cboType, &dtFromDate, &grid})
         if (control->Name() == name && control->Index() == index) return control;
     return nullptr;
 }
@@ -114,7 +118,7 @@ std::optional<std::string> FakeScreen::FieldText(const std::string& name) const 
 
 void FakeScreen::Form_KeyDown(int& KeyCode, int Shift) {
     Log(fmt::format("Form_KeyDown {} {}", KeyCode, Shift));
-    if (KeyCode == swallowInPreview) KeyCode = 0;
+    if (KeyCode == platform::keys::Escape) KeyCode = 0;
 }
 
 bool FakeScreen::Close() {
@@ -124,13 +128,11 @@ bool FakeScreen::Close() {
     return false;
 }
 
-screen::ScreenForm* FakeOpener::OpenDispatch(host::PlainHost& host, platform::Date serverDate, long mode,
+screen::ScreenForm* FakeOpener::OpenDispatch(host::PlainHost& host, platform::Date serverDate, long /*mode*/,
                                              platform::Date alertDate) {
-    openings.mode = mode;
     openings.serverDate = serverDate;
     openings.alertDate = alertDate;
     auto screen = std::make_unique<FakeScreen>(host.Services());
-    if (openings.arrange) openings.arrange(*screen);
     // As a form does while it opens: focus is set before the host can listen.
     screen->MoveFocus(screen->txtCustomer);
     return openings.screens.emplace_back(std::move(screen)).get();

@@ -6,7 +6,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -42,7 +41,6 @@ public:
     platform::TextBox txtInFrame{*this, "txtInFrame"};
     platform::TextBox txtLocked{*this, "txtLocked"};
     platform::CommandButton cmdSave{*this, "cmdSave"};
-    platform::CommandButton cmdClose1{*this, "cmdClose", 1};
     platform::Label lblTitle{*this, "lblTitle"};
     platform::ListView lstSO{*this, "lstSO"};
     platform::ListBox lstUOM{*this, "lstUOM"};
@@ -51,9 +49,9 @@ public:
     platform::DTFlex grid{*this, "DTFlexDispatch", 8};
 
     // ---- what the test arranges and reads ----------------------------------------
+    // Besides: the preview swallows Escape, txtCustomer's KeyDown swallows Enter, and
+    // txtCustomer disables itself when "off" is typed into it.
     std::vector<std::string> events;
-    int swallowInPreview = -1;  // the preview swallows this key code
-    int swallowInKeyDown = -1;  // txtCustomer's KeyDown swallows this key code
     std::string szDocNumbers = "SC1,SC2";
 
 private:
@@ -70,19 +68,14 @@ private:
 // Opens a FakeScreen for every `open`, and remembers what it was given.
 struct FakeOpenings {
     std::vector<std::unique_ptr<FakeScreen>> screens;
-    long mode = 0;
     platform::Date serverDate, alertDate;
-    std::function<void(FakeScreen&)> arrange;  // run on each new screen before it opens
 };
 
 struct FakeOpener : ScreenOpener {
     explicit FakeOpener(FakeOpenings& openings) : openings(openings) {}
     screen::ScreenForm* OpenDispatch(host::PlainHost& host, platform::Date serverDate, long mode,
                                      platform::Date alertDate) override;
-    screen::ScreenForm* OpenCForm(host::PlainHost&, platform::Date serverDate) override {
-        openings.serverDate = serverDate;
-        return nullptr;
-    }
+    screen::ScreenForm* OpenCForm(host::PlainHost&, platform::Date) override { return nullptr; }
     FakeOpenings& openings;
 };
 

@@ -51,7 +51,10 @@ TEST(ScriptParser, BadQuotingIsAnErrorOfItsLine) {
     EXPECT_EQ(ErrorLine("type txtCustomer \"ends in a backslash\\"), 1);
 }
 
-TEST(ScriptWords, MalformedWordsAreScriptErrorsOfTheirLine) {
+TEST(ScriptWords, SignedNumbersAndDatesWithATimeAreReadAndMalformedWordsAreScriptErrorsOfTheirLine) {
+    EXPECT_EQ(IntegerWord(Command({"key", "x", "-1"}), 2, "the key code"), -1);
+    EXPECT_EQ(IntegerWord(Command({"key", "x", "+2"}), 2, "the key code"), 2);
+    EXPECT_EQ(DateWord(Command({"open", "2026-11-01T10:30:00"}), 1), platform::DateTime(2026, 11, 1, 10, 30, 0));
     for (std::string word :
          {"cmdClose(", "cmdClose(x)", "cmdClose(-1)", "(1)", "cmd-Close", "1txt", "", "Frame1(0)x"}) {
         try {
@@ -66,12 +69,6 @@ TEST(ScriptWords, MalformedWordsAreScriptErrorsOfTheirLine) {
     for (std::string word : {"2026-11", "01/11/2026", "2026-13-01", "2026-11-01T10:30", "today"})
         EXPECT_THROW(DateWord(Command({"date", "dtFromDate", word}), 2), ScriptError) << word;
     EXPECT_THROW(RequireArguments(Command({"key", "a", "1", "2", "3"}), 2, 3, "usage"), ScriptError);
-}
-
-TEST(ScriptWords, SignedNumbersAndDatesWithATime) {
-    EXPECT_EQ(IntegerWord(Command({"key", "x", "-1"}), 2, "the key code"), -1);
-    EXPECT_EQ(IntegerWord(Command({"key", "x", "+2"}), 2, "the key code"), 2);
-    EXPECT_EQ(DateWord(Command({"open", "2026-11-01T10:30:00"}), 1), platform::DateTime(2026, 11, 1, 10, 30, 0));
 }
 
 TEST(KeyAscii, CharacterOfEachKeyUnderShiftControlAndAlt) {

@@ -8,33 +8,27 @@ using screen::Zuro_frmDispatch_Dispatch;
 
 class CustomerEntry : public ScreenTest {};
 
-TEST_F(CustomerEntry, AChosenCustomerBringsAddressesCategoryAndPriceHeading) {
+TEST_F(CustomerEntry, AChosenCustomerBringsCategoryAndPriceHeading) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     Type(f.txtCustomer, "City");
-    ASSERT_EQ(ListRows(), std::vector<std::string>{"City Medicals"});
     Pick(1);
     Key(f.txtCustomer, 13);
     EXPECT_EQ(f.txtCustomerID.Text(), "C003");
     EXPECT_EQ(f.nCustomerCategory, 3);
     // The demo's label table shortens the heading.
     EXPECT_EQ(f.lstAvailable.ColumnHeaders[2].Text, "Spl. Price");
-    EXPECT_FALSE(f.txtBillingAddress.Text().empty());
     EXPECT_EQ(Errors(), 0);
 }
 
 TEST_F(CustomerEntry, TheListPageOffersAllCustomersButANewNoteDoesNot) {
     Zuro_frmDispatch_Dispatch& listPage = Open(1);
     Type(listPage.txtCustomer, "A");
-    auto rows = ListRows();
-    ASSERT_FALSE(rows.empty());
-    EXPECT_EQ(rows.front(), "ALL CUSTOMERS");
+    EXPECT_EQ(ListRows().at(0), "ALL CUSTOMERS");
     listPage.Close();
 
     Zuro_frmDispatch_Dispatch& note = Open(2);
     Type(note.txtCustomer, "A");
-    rows = ListRows();
-    ASSERT_FALSE(rows.empty());
-    EXPECT_NE(rows.front(), "ALL CUSTOMERS");
+    EXPECT_NE(ListRows().at(0), "ALL CUSTOMERS");
 }
 
 TEST_F(CustomerEntry, EnterWithTheListOpenTakesItsHighlightedRow) {
@@ -83,13 +77,11 @@ TEST_F(CustomerEntry, TheCustomerFormHandsBackACustomer) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     f.nCustomerEntrySource = 2;
     f.CustomerCallBack("C009", "Lakshmi Provisions");
-    EXPECT_EQ(f.txtCustomerID.Text(), "C009");
-    EXPECT_EQ(f.txtCustomerID.Tag, "C009");
+    EXPECT_EQ(Box(f.txtCustomerID), "C009|C009");
     EXPECT_EQ(f.ActiveControl(), &f.txtCustomerID);
     f.nCustomerEntrySource = 1;
     f.CustomerCallBack("C009", "Lakshmi Provisions");
-    EXPECT_EQ(f.txtCustomer.Text(), "Lakshmi Provisions");
-    EXPECT_EQ(f.txtCustomer.Tag, "C009");
+    EXPECT_EQ(Box(f.txtCustomer), "Lakshmi Provisions|C009");
 }
 
 TEST_F(CustomerEntry, TheTickedDocumentsNameTheCustomer) {
@@ -110,9 +102,7 @@ TEST_F(CustomerEntry, TheTickedDocumentsNameTheCustomer) {
     EXPECT_EQ(f.szCustomerName, "Anand Stores");
 }
 
-class CustomerCredit : public ScreenTest {};
-
-TEST_F(CustomerCredit, TheFiguresOfTheCreditLine) {
+TEST_F(CustomerEntry, TheFiguresOfTheCreditLine) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     // A limit and a limit of -1 (N/A) are read by the customer-refusals session.
     // A customer in credit shows a negative amount owed.
@@ -126,7 +116,7 @@ TEST_F(CustomerCredit, TheFiguresOfTheCreditLine) {
     EXPECT_NE(LastStatus().find("Chqs in Hand: 3500, No.of Bills O/S: "), std::string::npos);
 }
 
-TEST_F(CustomerCredit, AnUnknownCustomerReadsZeroEverywhere) {
+TEST_F(CustomerEntry, AnUnknownCustomerReadsZeroEverywhere) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     f.ShowCustomerCredit("No Such Customer", true);
     EXPECT_EQ(

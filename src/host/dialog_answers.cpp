@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "host/other_group_items_answer.h"
 #include "host/setting_catalog.h"
 
 namespace host {
@@ -47,6 +48,11 @@ std::string DialogAnswers::Problem(const std::string& dialog, const std::vector<
         if (values.back() != "ok" && values.back() != "cancel")
             return "ShowMemoDialog ends with ok or cancel, not \"" + values.back() + "\"";
         return {};
+    }
+    if (dialog == "ShowDocumentInfoDialog") {
+        std::string problem;
+        ReadOtherGroupItemsAnswer(values, problem);
+        return problem;
     }
     return "unknown dialog \"" + dialog + "\"";
 }

@@ -14,7 +14,8 @@ namespace host {
 class DialogAnswers {
 public:
     // Dialog kinds: "AskMessage", "InputPassword", "InputBoxE", "SelectFreeItem",
-    // "SelectScheme", "SelectDocument", "ConfirmSaveOnExit", "ShowMemoDialog".
+    // "SelectScheme", "SelectDocument", "ConfirmSaveOnExit", "ShowMemoDialog",
+    // "ShowDocumentInfoDialog" (host/other_group_items_answer.h).
     // An unknown kind, or values the dialog could never give back, is refused with
     // std::invalid_argument and nothing is queued.
     void Queue(const std::string& dialog, std::vector<std::string> values);

@@ -164,13 +164,6 @@ void PlainTools::ShowNotFoundDialog(const std::string& text) {
     state_.transcript.Dialog("ShowNotFoundDialog", QuoteText(text) + " [" + JoinTexts(notFound_) + "]", "ok");
 }
 
-void PlainTools::ShowDocumentInfoDialog(const std::vector<std::string>& items, const std::string& customer,
-                                        const std::string& serial, const std::string& group) {
-    state_.transcript.Dialog(
-        "ShowDocumentInfoDialog",
-        QuoteText(customer) + " " + QuoteText(serial) + " " + QuoteText(group) + " [" + JoinTexts(items) + "]", "ok");
-}
-
 bool PlainTools::ShowMemoDialog(std::string& memo1, std::string& memo2, std::string& memo3, bool readOnly, int) {
     std::string given = QuoteText(memo1) + " " + QuoteText(memo2) + " " + QuoteText(memo3);
     if (readOnly) given += " read-only";

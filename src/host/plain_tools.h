@@ -36,8 +36,10 @@ public:
     std::string SelectDocument(int kind) override;
     void SetNotFoundRecords(const platform::RecordsetPtr& records) override;
     void ShowNotFoundDialog(const std::string& text) override;
-    void ShowDocumentInfoDialog(const std::vector<std::string>& items, const std::string& customer,
-                                const std::string& serial, const std::string& group) override;
+    // other_group_items_dialog.cpp
+    void ShowDocumentInfoDialog(host_services::OCGFreeItemsOwner& form, const platform::VariantTable& items,
+                                const std::string& customer, const std::string& serial,
+                                const std::string& group) override;
     bool ShowMemoDialog(std::string& memo1, std::string& memo2, std::string& memo3, bool readOnly,
                         int hostOption) override;
 

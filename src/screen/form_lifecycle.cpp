@@ -75,6 +75,8 @@ bool Zuro_frmDispatch_Dispatch::Close() {
 
 void Zuro_frmDispatch_Dispatch::Form_KeyDown(int& KeyCode, int Shift) {
     Handled("Form_KeyDown", [&] {
+        const int nRow = DTFlexDispatch.GridRow();
+        const int nCol = DTFlexDispatch.GridCol();
         bListArmed = 0;
         if (KeyCode == keys::F3) {
             if (Frame3.Enabled)
@@ -85,6 +87,7 @@ void Zuro_frmDispatch_Dispatch::Form_KeyDown(int& KeyCode, int Shift) {
         host_.global.HandleFormShortcut(*this, KeyCode, Shift);
         host_.global.HandleDateShortcut(*this, KeyCode, Shift);
         if (nMode == mode::View) host_.global.HandleLookupShortcut(txtDocID, KeyCode, Shift);
+        if (KeyCode == keys::F12 && Shift == host_.global.GetShiftMask()) ShowOCGFreeItemsDialog(nRow, nCol);
         if (KeyCode == keys::Escape && objLink) objLink->SetFocus();
     });
 }

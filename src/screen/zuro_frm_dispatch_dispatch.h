@@ -16,7 +16,9 @@
 #include "platform/grid.h"
 #include "platform/runtime_error.h"
 #include "platform/value.h"
+#include "platform/variant_table.h"
 #include "screen/host_services/host_services.h"
+#include "screen/host_services/other_group_free_items.h"
 #include "screen/screen_form.h"
 
 namespace screen {
@@ -32,7 +34,9 @@ inline constexpr long FromAlert = 6;
 inline constexpr long Amendment = 7;
 }  // namespace mode
 
-class Zuro_frmDispatch_Dispatch : public ScreenForm, public host_services::AutoListOwner {
+class Zuro_frmDispatch_Dispatch : public ScreenForm,
+                                  public host_services::AutoListOwner,
+                                  public host_services::OCGFreeItemsOwner {
 public:
     explicit Zuro_frmDispatch_Dispatch(host_services::HostServices host);
     ~Zuro_frmDispatch_Dispatch() override;
@@ -333,6 +337,17 @@ public:
     void AdjustRow(long nRemoved);
     std::string GetCustomerForScheme();
     void WireGridKeysAndRows();
+
+    // ---- free items of other category groups (F12) -------------------------------
+    // The rows with colOCGItem 1, the field first, one spare slot; no array when none.
+    platform::VariantTable ClubOCGFreeItems();
+    // Removes the other-group rows whose serial no entry (the entry first) names.
+    void DeleteExistingOCGItems(const platform::VariantTable& vItems);
+    // The host's dialog answers here with the entries the user settled on.
+    void LoadOCGFreeItems(const platform::VariantTable& vItems, long nReturnSerial) override;
+    // F12 of Form_KeyDown, at the grid's cell as the key found it.
+    void ShowOCGFreeItemsDialog(int nRow, int nCol);
+    void WireOtherGroupFreeItems();
 
     // ---- credit gates ------------------------------------------------------------------
     bool CheckCreditGates(long nSalesmanID, long nBeatID, long nRows);

@@ -8,6 +8,7 @@
 #include "platform/value.h"
 #include "screen/host_services/host_context.h"
 #include "screen/host_services/hosted_form.h"
+#include "screen/host_services/other_group_free_items.h"
 
 namespace host_services {
 
@@ -53,9 +54,12 @@ public:
     virtual void SetNotFoundRecords(const platform::RecordsetPtr& records) = 0;
     // Shows the items a document names that are unknown here.
     virtual void ShowNotFoundDialog(const std::string& text) = 0;
-    // Shows the details of the current line: its item list, customer, serial and group.
-    virtual void ShowDocumentInfoDialog(const std::vector<std::string>& items, const std::string& customer,
-                                        const std::string& serial, const std::string& group) = 0;
+    // Offers the note's free items of other category groups (items, the field first) for
+    // the customer, the current row's serial and the note's group; when the user accepts,
+    // hands the form the entries settled on through LoadOCGFreeItems.
+    virtual void ShowDocumentInfoDialog(OCGFreeItemsOwner& form, const platform::VariantTable& items,
+                                        const std::string& customer, const std::string& serial,
+                                        const std::string& group) = 0;
     // The memo fields dialog, read-only on a note that cannot change; true when the
     // user accepted. The form passes 2 as the host's option word.
     virtual bool ShowMemoDialog(std::string& memo1, std::string& memo2, std::string& memo3, bool readOnly,

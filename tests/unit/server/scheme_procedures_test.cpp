@@ -286,5 +286,68 @@ TEST_F(SchemeProcedures, MalformedArgumentsAreRefused) {
               "Conversion failed when converting date and/or time from character string.");
 }
 
+// The demo note's paths as docs/demo-data.md tells them.
+TEST(DemoSchemes, TheDocumentedQuantitiesCrossTheirSlabsAndTheRefusedFreeGoodsCannotBeHad) {
+    testkit::ScratchFolder folder;
+    const auto db = CreateDatabase(folder.File("demo.db"), true);
+    const platform::Value today = testkit::LocalNow();
+    const auto reached = [&](const char* item, double quantity, double amount, const char* customer) {
+        const auto results = db->CallProcedure(
+            "Zuro_sp_FindDispatch_SKUSchemeID_New",
+            {{item, VarChar}, {today, Date}, {quantity, Double}, {customer, VarChar}, {amount, Double}, {"", VarChar}});
+        std::string out;
+        for (const auto& row : results.front().rows)
+            out += (out.empty() ? "" : ";") + platform::ToText(row[0]) + "/" + platform::ToText(row[4]);
+        return out;
+    };
+    struct Case {
+        const char* item;
+        double quantity, amount;
+        const char *customer, *expected;
+    };
+    const Case cases[] = {
+        {"FD001", 456, 0, "C005", ""},
+        {"FD001", 480, 0, "C005", "201/2011"},
+        {"FD001", 2280, 0, "C005", ""},
+        {"FD001", 2400, 0, "C005", "201/2012"},
+        {"BV001", 72, 1080, "C005", "202/2021"},
+        {"FD002", 120, 0, "C005", "203/2031"},
+        {"FD004", 12, 0, "C005", "204/2041"},
+        {"HC001", 50, 0, "C003", "205/2051"},
+        {"HC001", 50, 0, "C005", ""},
+        {"BV002", 12, 0, "C005", "206/2061"},
+        {"PC003", 6, 0, "C005", "209/2091"},
+        {"PC003", 500, 0, "C005", "209/2091"},  // 208 is off
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(reached(c.item, c.quantity, c.amount, c.customer), c.expected) << c.item << " " << c.quantity;
+
+    const auto slab = [&](long long scheme, double base, double uom1) {
+        const auto rows = db->CallProcedure("Zuro_sp_GetDispatch_SchSlabDetails", {{scheme, Integer},
+                                                                                   {base, Double},
+                                                                                   {uom1, Double},
+                                                                                   {0, Double},
+                                                                                   {0, Double},
+                                                                                   {"C005", VarChar},
+                                                                                   {3, Integer}})
+                              .front()
+                              .rows;
+        return rows.empty() ? std::string() : platform::ToText(rows.front()[6]);
+    };
+    EXPECT_EQ(slab(301, 504, 0), "3011");
+    EXPECT_EQ(slab(305, 30, 0), "3051");
+    EXPECT_EQ(slab(306, 50, 0), "3061");
+    EXPECT_EQ(slab(306, 49, 0), "");
+
+    const auto available = [&](long long scheme, long long slabID) {
+        return platform::ToText(
+            db->CallProcedure("Zuro_SP_ListFreeSKUCount", {{scheme, Integer}, {slabID, Integer}}).front().rows[0][0]);
+    };
+    for (auto [scheme, slabID] : {std::pair{203, 2031}, std::pair{209, 2091}, std::pair{306, 3061}})
+        EXPECT_EQ(available(scheme, slabID), "0") << scheme;
+    for (auto [scheme, slabID] : {std::pair{201, 2011}, std::pair{206, 2061}, std::pair{305, 3051}})
+        EXPECT_EQ(available(scheme, slabID), "1") << scheme;
+}
+
 }  // namespace
 }  // namespace server

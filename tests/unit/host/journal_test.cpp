@@ -37,16 +37,6 @@ protected:
     }
 };
 
-TEST_F(JournalTest, PostingsFollowTheCallersTransaction) {
-    std::string error;
-    connection->BeginTrans();
-    EXPECT_TRUE(journal().Journal(2, 15, error)) << error;
-    EXPECT_TRUE(connection->InTransaction()) << "the caller's transaction stays open";
-    EXPECT_EQ(platform::ToNumber(connection->Execute("Select Count(*) From JournalPostings")->Fields(0)), 2);
-    connection->RollbackTrans();
-    EXPECT_TRUE(Postings().empty());
-}
-
 // The customer is debited and sales credited with the note's value; a cancellation
 // turns the sides round and goes on the note's own date.
 TEST_F(JournalTest, ADatedPostingAndACancellation) {

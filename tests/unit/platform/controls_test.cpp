@@ -117,8 +117,7 @@ TEST_F(Controls, TicksRaiseItemCheckAndAPlainListsSelectionIsItsIndex) {
 
 TEST_F(Controls, ListViewCountsFromOneAndSelectsOneItemAtATime) {
     ListView list{scope, "lstAvailable"};
-    for (const char* batch : {"B1", "B2", "B3"}) list.Add(batch).SetSubItem(3, std::string(batch) + "-qty");
-    EXPECT_EQ(list.Item(2).SubItem(3), "B2-qty");
+    for (const char* batch : {"B1", "B2", "B3"}) list.Add(batch);
     EXPECT_EQ(list.Item(2).SubItem(5), "");  // never written
     for (int outside : {0, 4}) EXPECT_EQ(ErrorNumberOf([&] { (void)list.Item(outside); }), 35600);
     EXPECT_EQ(ErrorNumberOf([&] { (void)list.Item(1).SubItem(0); }), 35600);

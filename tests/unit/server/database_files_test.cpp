@@ -34,13 +34,8 @@ std::string Written(const std::string& text) {
     return path;
 }
 
-TEST(DatabaseFiles, TheSchemaScriptRunsInsideTheCallersTransaction) {
-    EmbeddedConnection db(ScratchPath("schema", ".db"), {.create = true});
-    db.BeginTrans();
-    db.ExecuteScript(SchemaScript());
-    db.RollbackTrans();  // refused, were the transaction already ended by a COMMIT in the script
-    EXPECT_EQ(RowsText(db.ExecuteNative("SELECT count(*) FROM sqlite_master")), "0");
-}
+// The schema script runs inside the transaction that makes every database; a COMMIT
+// of its own would end that transaction and fail every test that opens one.
 
 TEST(DatabaseFiles, RefusesWhatIsNotOursAndLeavesItAlone) {
     const std::string missing = ScratchPath("missing", ".db");

@@ -70,9 +70,7 @@ TEST(ServerConversions, TakeWhatTheServerTookAndRefuseTheRest) {
 
 TEST(ProcedureArguments, ReadsByPositionWithDefaults) {
     ProcedureArguments args("sp_x", {{"5", adtype::VarChar}});
-    EXPECT_EQ(args.Int(0), Value(5));
     EXPECT_EQ(args.Int(1, Value(9)), Value(9));
-    EXPECT_EQ(args.IntOr(1, -1), -1);
     EXPECT_EQ(Refusal([&] { args.Text(1); }),
               "Procedure or function 'sp_x' expects parameter '@2', which was not supplied.");
 }

@@ -46,7 +46,6 @@ TEST_F(Procedures, AreFoundWithoutRegardToCaseOrOwner) {
                              "[dbo].[sp_get_CustomerName]", " Dbo.Sp_Get_CustomerName "}) {
         EXPECT_EQ(RowsText(connection_->RunProcedure(name, customer)), "Bharat Traders") << name;
     }
-    EXPECT_EQ(CanonicalObjectName("[dbo].[Fn_X]"), "fn_x");
     EXPECT_EQ(CanonicalObjectName("other.sp_x"), "other.sp_x");  // another owner's object is another object
     EXPECT_EQ(registry_.FindProcedure("other.sp_get_CustomerName"), nullptr);
 }

@@ -14,6 +14,11 @@ protected:
         const std::string batches = "SELECT * FROM Batch_Products WHERE Batch_Code IN (" + codes + ") ORDER BY 1";
         return Text("SELECT group_concat(Batch_Code || '=' || Quantity, ' ') FROM (" + batches + ")");
     }
+    // The detail procedure's answer for the line (1 stored, 0 refused), then the batches.
+    std::string Take(const Line& line, const std::string& codes, bool customerPrice = false, bool longList = true) {
+        const std::string answer = std::to_string(StoreLine(line, customerPrice, longList));
+        return answer + ": " + Batches(codes);
+    }
     // A new note of the usual customer, for the test's lines.
     const long long note = NewNote();
 };
@@ -21,13 +26,11 @@ protected:
 TEST_F(SaveDetail, TakesAPricedLineFromTheBatchesInTheStockListsOrder) {
     // Cream Biscuit, no batch named, 12.5 boxes: the batch that expires first (CB102)
     // goes first, then CB101; the free stock of CB101 is not for sale.
-    EXPECT_EQ(
-        StoreLine({.dispatchID = note, .item = "FD002", .baseQuantity = 150, .unitQuantity = 12.5, .rowNumber = 3}), 1);
-    EXPECT_EQ(Batches("5, 6, 7"), "5=594.0 6=120.0 7=0.0");
-    // One row a batch, one serial, the boxes shared in proportion.
-    EXPECT_EQ(NoteRows("Serial, Batch_Code, Batch_Number, Quantity, UOMQty", note, "ORDER BY DetailID"),
-              "3|7|CB102|144r|12r;3|5|CB101|6r|0.5r");
-    EXPECT_EQ(NoteRows("SUM(Quantity), SUM(UOMQty), COUNT(DISTINCT UOM)", note, "GROUP BY Serial"), "150r|12.5r|1");
+    const Line line{.dispatchID = note, .item = "FD002", .baseQuantity = 150, .unitQuantity = 12.5, .rowNumber = 3};
+    EXPECT_EQ(Take(line, "5, 6, 7"), "1: 5=594.0 6=120.0 7=0.0");
+    // One row a batch, one serial and unit, the boxes shared in proportion.
+    EXPECT_EQ(NoteRows("Serial, Batch_Code, Batch_Number, Quantity, UOM, UOMQty", note, "ORDER BY DetailID"),
+              "3|7|CB102|144r|2|12r;3|5|CB101|6r|2|0.5r");
 }
 
 TEST_F(SaveDetail, ANamedNumberLimitsTheBatchesAndExpiryIsJudgedOnTheDispatchDay) {
@@ -37,8 +40,7 @@ TEST_F(SaveDetail, ANamedNumberLimitsTheBatchesAndExpiryIsJudgedOnTheDispatchDay
     // for a priced line, and MB2402 has another number.
     EXPECT_EQ(StoreLine(line), 0);
     line.baseQuantity = 2400;
-    EXPECT_EQ(StoreLine(line), 1);
-    EXPECT_EQ(Batches("1, 2, 4"), "1=0.0 2=1200.0 4=480.0");
+    EXPECT_EQ(Take(line, "1, 2, 4"), "1: 1=0.0 2=1200.0 4=480.0");
 
     // MB2312 expired a month ago: not for today, but a note dated forty days back
     // may still take it.
@@ -46,30 +48,25 @@ TEST_F(SaveDetail, ANamedNumberLimitsTheBatchesAndExpiryIsJudgedOnTheDispatchDay
     line.baseQuantity = 24;
     EXPECT_EQ(StoreLine(line), 0);
     line.dispatchDay = platform::Date{Today().serial - 40};
-    EXPECT_EQ(StoreLine(line), 1);
-    EXPECT_EQ(Batches("3"), "3=216.0");
+    EXPECT_EQ(Take(line, "3"), "1: 3=216.0");
 }
 
 TEST_F(SaveDetail, GivesFreeStockToFreeLinesOnlyAndPrefersTheKindTheLineStoodOn) {
     // A scheme's free box on the free batch of MB2401, sent with the item's price.
     Line free{.dispatchID = note, .batch = "MB2401", .freeItem = 1, .freeRow = 1};
-    EXPECT_EQ(StoreLine(free), 1);
-    EXPECT_EQ(Batches("1, 4"), "1=2400.0 4=456.0");
+    EXPECT_EQ(Take(free, "1, 4"), "1: 1=2400.0 4=456.0");
     // The same free line where the user chose the saleable batch.
     free.freeRow = 0;
-    EXPECT_EQ(StoreLine(free), 1);
-    EXPECT_EQ(Batches("1, 4"), "1=2376.0 4=456.0");
+    EXPECT_EQ(Take(free, "1, 4"), "1: 1=2376.0 4=456.0");
     // More than the free batch holds: a free line may go on to saleable stock.
     free.freeRow = 1;
     free.baseQuantity = 500;
-    EXPECT_EQ(StoreLine(free), 1);
-    EXPECT_EQ(Batches("1, 4"), "1=2332.0 4=0.0");
+    EXPECT_EQ(Take(free, "1, 4"), "1: 1=2332.0 4=0.0");
 
     // A line of another category group on free stock goes as not free, and still
     // takes the free batch it was shown.
     Line other{.dispatchID = note, .item = "PC002", .baseQuantity = 10, .freeRow = 1, .otherGroupItem = 1};
-    EXPECT_EQ(StoreLine(other, false, false), 1);
-    EXPECT_EQ(Batches("20, 21"), "20=2000.0 21=490.0");
+    EXPECT_EQ(Take(other, "20, 21", false, false), "1: 20=2000.0 21=490.0");
 
     // The goods of free lines carry no price, whatever came with them.
     EXPECT_EQ(
@@ -110,15 +107,13 @@ TEST_F(SaveDetail, TheCustomerPriceProcedureTakesTheBatchAtTheShownPriceFirst) {
     // batch 25 at PTS 19.00 and PTR 20.50. Left to the stock list's order, 24 goes first.
     Line line{
         .dispatchID = stockistNote, .item = "HC001", .batch = "PCM24A", .originalPrice = 20.50, .baseQuantity = 100};
-    EXPECT_EQ(StoreLine(line, true), 1);
-    EXPECT_EQ(Batches("24, 25, 26"), "24=1000.0 25=400.0 26=1500.0");
+    EXPECT_EQ(Take(line, "24, 25, 26", true), "1: 24=1000.0 25=400.0 26=1500.0");
 
     // A stockist was shown batch 25 at its PTS; what it lacks comes from the other price.
     line.customerCategory = 1;
     line.originalPrice = 19.00;
     line.baseQuantity = 600;
-    EXPECT_EQ(StoreLine(line, true), 1);
-    EXPECT_EQ(Batches("24, 25, 26"), "24=800.0 25=0.0 26=1500.0");
+    EXPECT_EQ(Take(line, "24, 25, 26", true), "1: 24=800.0 25=0.0 26=1500.0");
 
     EXPECT_EQ(NoteRows("group_concat(Batch_Code || ':' || Price_Option || CustomerCategory, ' ')", stockistNote),
               "25:12 25:11 24:11");
@@ -128,8 +123,7 @@ TEST_F(SaveDetail, AnItemThatKeepsNoStockTakesNone) {
     // The display stand's category keeps no stock, whatever the screen sends.
     EXPECT_EQ(StoreLine({.dispatchID = note, .item = "PM001", .baseQuantity = 3}), 1);
     // The screen's flag alone stops the take as well: more than batch 8 holds.
-    EXPECT_EQ(StoreLine({.dispatchID = note, .item = "FD003", .baseQuantity = 600, .trackInventory = 0}), 1);
-    EXPECT_EQ(Batches("8"), "8=500.0");
+    EXPECT_EQ(Take({.dispatchID = note, .item = "FD003", .baseQuantity = 600, .trackInventory = 0}, "8"), "1: 8=500.0");
     EXPECT_EQ(
         NoteRows("group_concat(Product_Code || ':' || Batch_Code || ':' || Track_Inventory || ':' || Quantity, ' ')",
                  note),

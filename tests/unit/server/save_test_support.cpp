@@ -25,17 +25,9 @@ platform::ParameterList Line::Parameters(bool customerPrice, bool longList) cons
         list.insert(list.end(), {{schemeID, Integer}, {freeSerial, VarChar}});
         return list;
     }
-    const platform::ParameterList schemes{{0, Integer},
-                                          {freeSerial, VarChar},
-                                          {schemeIDs, VarChar},
-                                          {splCatSchemeIDs, VarChar},
-                                          {splCatScheme, Integer},
-                                          {splCatSerial, VarChar},
-                                          {schemeIDs, VarChar},
-                                          {multiScheme, VarChar},
-                                          {splCatSchemeIDs, VarChar},
-                                          {multiSplCatScheme, VarChar}};
-    list.insert(list.end(), schemes.begin(), schemes.end());
+    list.insert(list.end(), {{0, Integer}, {freeSerial, VarChar}, {schemeIDs, VarChar}, {splCatSchemeIDs, VarChar}});
+    list.insert(list.end(), {{splCatScheme, Integer}, {splCatSerial, VarChar}, {schemeIDs, VarChar}});
+    list.insert(list.end(), {{multiScheme, VarChar}, {splCatSchemeIDs, VarChar}, {multiSplCatScheme, VarChar}});
     return list;
 }
 

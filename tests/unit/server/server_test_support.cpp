@@ -41,11 +41,11 @@ std::string RowsText(const platform::ResultSet& result) {
 
 std::string RowsText(const platform::RecordsetPtr& recordset) { return RowsText(recordset->Current()); }
 
-std::string Refusal(const std::function<void()>& action) {
+std::string Refusal(const std::function<void()>& action, long number) {
     try {
         action();
     } catch (const platform::RuntimeError& error) {
-        EXPECT_EQ(error.Number(), platform::err::DatabaseError);
+        EXPECT_EQ(error.Number(), number) << error.Description();
         return error.Description();
     }
     return "(no error)";

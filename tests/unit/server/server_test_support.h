@@ -9,6 +9,7 @@
 #include <string>
 
 #include "platform/database.h"
+#include "platform/runtime_error.h"
 #include "server/embedded_connection.h"
 #include "server/procedure_registry.h"
 
@@ -18,9 +19,9 @@ namespace server::testkit {
 std::string RowsText(const platform::ResultSet& result);
 std::string RowsText(const platform::RecordsetPtr& recordset);  // its first result
 
-// The description of the database error the action raises (any other error fails the
-// test); "(no error)" when it goes through.
-std::string Refusal(const std::function<void()>& action);
+// The description of the error the action raises, which must carry the number given
+// (any other error fails the test); "(no error)" when it goes through.
+std::string Refusal(const std::function<void()>& action, long number = platform::err::DatabaseError);
 
 // The local date and time, to the second.
 platform::Date LocalNow();

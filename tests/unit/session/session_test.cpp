@@ -91,7 +91,6 @@ TEST_F(SessionTest, ScriptErrorsStopAtTheirLineWithStatusTwo) {
              {kOpen + "expect colour txtCustomer red", "line 3: "},
              {kOpen + "show field szNothing", "line 3: the screen has no field szNothing"},
              {kOpen + "call NoSuchRoutine", "line 3: the screen has no routine NoSuchRoutine"},
-             {kOpen + "call Strict 1 2", "line 3: Strict: takes one argument"},
              {kOpen + "answer AskMessage 9", "line 3: "},
              {kOpen + "setting NoSuchSetting 1", "line 3: "},
              {kOpen + "open dispatch", "line 3: open takes dispatch MODE [SERVERDATE [ALERTDATE]]"},
@@ -118,7 +117,6 @@ TEST_F(SessionTest, FailedChecksAndRefusedActionsAreReportedAndTheScriptGoesOn) 
         std::string line, failure;
     };
     const std::vector<Step> steps{
-        {"expect text txtCustomer \"X\"", "was \"\""},
         {"type txtCustomer \"Y\"", ""},
         {"type txtInFrame \"x\"", "txtInFrame lies in Frame3, which is disabled"},
         {"type txtLocked \"x\"", "txtLocked is locked"},
@@ -130,7 +128,6 @@ TEST_F(SessionTest, FailedChecksAndRefusedActionsAreReportedAndTheScriptGoesOn) 
         {"expect result \"\"", "no routine call has run to its end"},
         {"call Broken", "run-time error 91 not handled by the screen: Object"},
         {"call Strict late", "run-time error 450 not handled by the screen"},
-        {"expect enabled Frame3 true", "was false"},
         {"call Report", ""},
         {"expect status \"Select an existing Customer.\"", ""},
         {"call Ask", ""},

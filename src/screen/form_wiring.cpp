@@ -12,6 +12,7 @@ void Zuro_frmDispatch_Dispatch::WireEvents() {
     WireItemEntryAndBatches();
     WireGridKeysAndRows();
     WireSavingAndPrinting();
+    WireSchemes();
 
     // Pages and the header's keys.
     txtref.KeyDown.Connect([this](int& key, int shift) { txtref_KeyDown(key, shift); });

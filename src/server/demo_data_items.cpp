@@ -1,6 +1,6 @@
 // Units, item categories and their groups, and the item master: one-, two- and
 // three-level unit ladders, batch-tracked and plain items, a category priced by batch
-// and one that keeps no stock.
+// and one that keeps no stock; an item discontinued with stock left.
 #include "server/demo_data.h"
 
 namespace server::demo_part {
@@ -50,7 +50,9 @@ INSERT INTO Items (Product_Code, ProductName, Alias, CategoryID, UOM, BaseUOM, U
     ('HC001', 'Paracetamol 500mg', '', 6, 2, 4, 2, 10, 3, 500, 1, 1, 1, 19.50, 18.00, 19.50, 25.00, 25.00, 17.50, 15.00, 2, 1, 1, {T-400}),
     ('HC002', 'Cough Syrup 100ml', '', 6, 5, 5, 6, 20, NULL, NULL, 1, 1, 1, 66.00, 62.00, 66.00, 85.00, 85.00, 60.00, 52.00, 2, 1, 1, {T-400}),
     ('HC003', 'Antiseptic Liquid 500ml', '', 6, 5, 5, NULL, NULL, NULL, NULL, 1, 1, 0, 101.00, 95.00, 101.00, 125.00, 125.00, 92.00, 80.00, 2, 0, 1, {T-400}),
-    ('FS001', 'Festive Hamper', '', 8, 1, 1, NULL, NULL, NULL, NULL, 0, 0, 0, 480.00, 450.00, 480.00, 550.00, 550.00, 440.00, 400.00, 1, 0, 1, {T-120});
+    ('FS001', 'Festive Hamper', '', 8, 1, 1, NULL, NULL, NULL, NULL, 0, 0, 0, 480.00, 450.00, 480.00, 550.00, 550.00, 440.00, 400.00, 1, 0, 1, {T-120}),
+    -- Discontinued: switched off in the master with stock still on the shelf.
+    ('PC004', 'Travel Toothbrush', '', 5, 1, 1, NULL, NULL, NULL, NULL, 0, 0, 0, 20.00, 18.00, 20.00, 25.00, 25.00, 17.00, 14.00, 1, 0, 0, {T-500});
 )SQL";
 }
 

@@ -14,7 +14,16 @@ void RegisterSchemeProcedures(ProcedureRegistry& registry);
 
 namespace schemes {
 
-std::vector<platform::ResultSet> ListFreeSKUCount(ProcedureContext& context, const platform::ParameterList& parameters);
+using Answers = std::vector<platform::ResultSet>;
+
+Answers ListFreeSKUCount(ProcedureContext& context, const platform::ParameterList& parameters);
+Answers FindDispatchSKUSchemes(ProcedureContext& context, const platform::ParameterList& parameters);
+Answers SKUSchemeSlabDetail(ProcedureContext& context, const platform::ParameterList& parameters);
+Answers FindSplCatSchemes(ProcedureContext& context, const platform::ParameterList& parameters);
+Answers SplCategoryItems(ProcedureContext& context, const platform::ParameterList& parameters);
+Answers AllItemsMeetMinQty(ProcedureContext& context, const platform::ParameterList& parameters);
+Answers DispatchSchemeSlab(ProcedureContext& context, const platform::ParameterList& parameters);
+Answers CountSchemesForCustomer(ProcedureContext& context, const platform::ParameterList& parameters);
 
 }  // namespace schemes
 }  // namespace server

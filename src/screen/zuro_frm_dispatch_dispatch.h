@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/controls.h"
@@ -474,6 +475,15 @@ private:
     void SelectActiveText();
     void LoadOnce();
     void PlaceApplySchemeBesideMemo();
+
+    // The grid's rows by serial as getRowNumber finds them (the first row carrying
+    // it), good while the grid's content stamp stands where it was read.
+    struct SerialIndex {
+        bool read = false;
+        unsigned long stamp = 0;
+        std::unordered_map<double, long> rows;
+    };
+    SerialIndex serialIndex_;
 
     host_services::HostServices host_;
     host_services::HostContext* objHostContext_ = nullptr;  // the running component's context

@@ -52,7 +52,7 @@ INSERT INTO Items (Product_Code, ProductName, Alias, CategoryID, UOM, BaseUOM, U
     ('HC003', 'Antiseptic Liquid 500ml', '', 6, 5, 5, NULL, NULL, NULL, NULL, 1, 1, 0, 101.00, 95.00, 101.00, 125.00, 125.00, 92.00, 80.00, 2, 0, 1, {T-400}),
     ('FS001', 'Festive Hamper', '', 8, 1, 1, NULL, NULL, NULL, NULL, 0, 0, 0, 480.00, 450.00, 480.00, 550.00, 550.00, 440.00, 400.00, 1, 0, 1, {T-120}),
     -- Discontinued: switched off in the master with stock still on the shelf.
-    ('PC004', 'Travel Toothbrush', '', 5, 1, 1, NULL, NULL, NULL, NULL, 0, 0, 0, 20.00, 18.00, 20.00, 25.00, 25.00, 17.00, 14.00, 1, 0, 0, {T-500});
+    ('FD006', 'Biscuit Gift Tin', '', 1, 1, 1, NULL, NULL, NULL, NULL, 0, 0, 0, 20.00, 18.00, 20.00, 25.00, 25.00, 17.00, 14.00, 1, 0, 0, {T-500});
 )SQL";
 }
 

@@ -28,7 +28,7 @@ INSERT INTO Schemes (SchemeID, SchemeName, SchemeType, SchemeScope, HasSlabs, Va
     (206, 'Juice Free Drink Choice', 3, 1, 1, {T-20}, {T+40 23:59}, 0, '', 1, 1, {T-21}),
     (207, 'Summer Drink Offer', 3, 1, 1, {T-120}, {T-31 23:59}, 0, '', 1, 1, {T-121}),
     (208, 'Toothpaste Offer', 3, 1, 1, {T-30}, {T+60 23:59}, 0, '', 1, 0, {T-31}),
-    (209, 'Toothpaste Brush Offer', 3, 1, 1, {T-30}, {T+60 23:59}, 0, '', 1, 1, {T-31}),
+    (209, 'Toothpaste Gift Tin Offer', 3, 1, 1, {T-30}, {T+60 23:59}, 0, '', 1, 1, {T-31}),
     (301, 'Biscuit Bonanza', 3, 2, 1, {T-60}, {T+60 23:59}, 0, '', 1, 1, {T-61}),
     (302, 'Personal Care 5% Off', 1, 2, 1, {T-60}, {T+60 23:59}, 0, '', 1, 1, {T-61}),
     (303, 'Beverage Case Discount', 2, 2, 1, {T-60}, {T+60 23:59}, 0, '', 1, 1, {T-61}),
@@ -74,7 +74,7 @@ INSERT INTO SchemeSlabs (SlabID, SchemeID, SlabStart, SlabEnd, SlabUnit, Onward,
 INSERT INTO SchemeFreeItems (SlabID, Free_Item_Code) VALUES
     (2011, 'FD001'), (2012, 'FD001'), (2021, 'BV003'), (2031, 'FD005'), (2041, 'PC002'),
     (2051, 'HC003'), (2061, 'BV001'), (2061, 'BV003'), (2071, 'BV003'), (2081, 'PC003'),
-    (2091, 'PC004'), (3011, 'FD002'), (3041, 'HC003'), (3051, 'PM002'), (3061, 'FD005');
+    (2091, 'FD006'), (3011, 'FD002'), (3041, 'HC003'), (3051, 'PM002'), (3061, 'FD005');
 
 INSERT INTO SchemeCustomers (SchemeID, CustomerID) VALUES
     (205, 'C003');

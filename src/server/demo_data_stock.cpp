@@ -47,8 +47,8 @@ INSERT INTO Batch_Products (Batch_Code, Product_Code, Batch_Number, Expiry, PKD,
     -- The last carton of an older lot of Mango Juice: it expires first, so it is
     -- offered and taken first, and two clerks dispatching a carton each meet on it.
     (32, 'BV002', 'MJ10', {T+60}, NULL, 6, 60, 70.00, 85.00, 80.00, 85.00, 99.00, 99.00, 78.00, 0, 12, 1, 0, {T-120}),
-    -- What is left of the discontinued toothbrush: stock that no scheme may give.
-    (33, 'PC004', '', NULL, NULL, 60, 200, 14.00, 20.00, 18.00, 20.00, 25.00, 25.00, 17.00, 0, 18, 1, 0, {T-200});
+    -- What is left of the discontinued gift tin: stock that no scheme may give.
+    (33, 'FD006', '', NULL, NULL, 60, 200, 14.00, 20.00, 18.00, 20.00, 25.00, 25.00, 17.00, 0, 18, 1, 0, {T-200});
 
 -- The openings a week ago and today, from the stock as it stands.
 INSERT INTO OpeningDetails (Product_Code, Opening_Date, Opening_Quantity, Free_Saleable_Quantity, Opening_Value)

@@ -28,7 +28,9 @@ platform::Value CreationDayLimit(const ProcedureArguments& args, std::size_t ind
     const std::string text = platform::Trim(args.TextOr(index, ""));
     if (text.empty()) return platform::Value::Null();
     std::optional<platform::Date> day = platform::detail::ParseDateText(text);
-    if (!day && platform::IsNumericText(text)) day = platform::Date{platform::ToNumber(platform::Value(text))};
+    // Day numbers as far as the server's calendar reaches (9999-12-31).
+    const double number = platform::IsNumericText(text) ? platform::ToNumber(platform::Value(text)) : -1;
+    if (!day && number >= 0 && number <= 2958465) day = platform::Date{number};
     if (!day)
         throw platform::RuntimeError(platform::err::DatabaseError,
                                      "Conversion failed when converting date and/or time from character string.");

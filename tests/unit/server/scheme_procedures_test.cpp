@@ -1,6 +1,6 @@
 // The scheme procedures on a small database of their own: which schemes stand for a
 // customer on a day, the slab a total reaches, the minimums of a special category
-// scheme, and whether free goods can be had.
+// scheme; then whether the demo's free goods can be had.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -16,337 +16,178 @@
 namespace server {
 namespace {
 
-using platform::adtype::Date;
-using platform::adtype::Double;
-using platform::adtype::Integer;
-using platform::adtype::VarChar;
-
-// A1 sells in pieces, dozens (UOM1, 12) and gross (UOM2, 144); F1 to F3 and P1 are
-// free goods: F1 in stock, F2 with nothing live, F3 switched off in the master with
-// stock left, P1 of a category that keeps no stock. Every scheme runs through June
-// 2030 unless told otherwise.
+// A1 sells in pieces, dozens and gross (144). Schemes 1 to 6 are item schemes of A1,
+// 101 to 104 special category schemes; all run through June 2030.
 constexpr const char* kRows = R"SQL(
 INSERT INTO UOM (UOM, Description) VALUES (1, 'PCS'), (2, 'DOZ'), (3, 'GROSS');
-INSERT INTO ItemCategories (CategoryID, Category_Name, Track_Inventory) VALUES (1, 'Goods', 1), (2, 'Stands', 0);
-INSERT INTO Items (Product_Code, ProductName, CategoryID, UOM, BaseUOM, UOM1, UOM1_Conversion, UOM2, UOM2_Conversion,
-                   Active) VALUES
-    ('A1', 'Apple', 1, 1, 1, 2, 12, 3, 144, 1), ('B7', 'Bean', 1, 1, 1, NULL, NULL, NULL, NULL, 1),
-    ('F1', 'Fig', 1, 1, 1, NULL, NULL, NULL, NULL, 1), ('F2', 'Fennel', 1, 1, 1, NULL, NULL, NULL, NULL, 1),
-    ('F3', 'Flax', 1, 1, 1, NULL, NULL, NULL, NULL, 0), ('P1', 'Stand', 2, 1, 1, NULL, NULL, NULL, NULL, 1);
-INSERT INTO Batch_Products (Batch_Code, Product_Code, Expiry, Quantity) VALUES
-    (1, 'F1', '2999-01-01 00:00:00', 10), (2, 'F2', '2999-01-01 00:00:00', 0), (3, 'F2', '2000-01-01 00:00:00', 40),
-    (4, 'F3', NULL, 50);
+INSERT INTO ItemCategories (CategoryID, Category_Name) VALUES (1, 'Goods');
+INSERT INTO Items (Product_Code, ProductName, CategoryID, UOM, UOM1, UOM1_Conversion, UOM2, UOM2_Conversion)
+VALUES ('A1', 'Apple', 1, 1, 2, 12, 3, 144), ('B7', 'Bean', 1, 1, NULL, NULL, NULL, NULL);
 INSERT INTO Customer (CustomerID, Company_Name) VALUES ('C1', 'One'), ('C2', 'Two');
-
-INSERT INTO Schemes (SchemeID, SchemeName, SchemeType, SchemeScope, HasSlabs, AllCustomers, Active, CreationDate)
-VALUES (1, 'Gross Offer', 3, 1, 1, 1, 1, '2030-05-01 00:00:00'), (2, 'Value Offer', 3, 1, 1, 1, 1, '2030-05-01 00:00:00'),
-       (3, 'Two Only', 3, 1, 1, 0, 1, '2030-06-10 15:00:00'), (4, 'Switched Off', 3, 1, 1, 1, 0, '2030-05-01 00:00:00'),
-       (5, 'Load Time', 17, 1, 1, 1, 1, '2030-05-01 00:00:00'), (6, 'Dozens', 3, 1, 0, 1, 1, '2030-05-01 00:00:00'),
-       (101, 'Combo', 3, 2, 1, 1, 1, '2030-05-01 00:00:00'), (102, 'Value Combo', 3, 2, 1, 1, 1, '2030-05-01 00:00:00'),
-       (103, 'Gross Off', 1, 2, 1, 1, 1, '2030-05-01 00:00:00'), (104, 'Two Combo', 3, 2, 1, 0, 1, '2030-06-10 15:00:00');
-UPDATE Schemes SET ValidFrom = '2030-06-01 00:00:00', ValidTo = '2030-06-30 23:59:59';
+INSERT INTO Schemes (SchemeID, SchemeName, SchemeType, SchemeScope, HasSlabs, AllCustomers, Active) VALUES
+    (1, 'Gross Offer', 3, 1, 1, 1, 1), (2, 'Value Offer', 3, 1, 1, 1, 1), (3, 'Two Only', 3, 1, 1, 0, 1),
+    (4, 'Switched Off', 3, 1, 1, 1, 0), (5, 'Load Time', 17, 1, 1, 1, 1), (6, 'Dozens', 3, 1, 0, 1, 1),
+    (101, 'Combo', 3, 2, 1, 1, 1), (102, 'Value Combo', 3, 2, 1, 1, 1), (103, 'Gross Off', 1, 2, 1, 1, 1),
+    (104, 'Two Combo', 3, 2, 1, 0, 1);
+UPDATE Schemes SET ValidFrom = '2030-06-01 00:00:00', ValidTo = '2030-06-30 23:59:59',
+    CreationDate = CASE WHEN AllCustomers = 0 THEN '2030-06-10 15:00:00' ELSE '2030-05-01 00:00:00' END;
 INSERT INTO SchemeCustomers (SchemeID, CustomerID) VALUES (3, 'C2'), (104, 'C2');
-INSERT INTO SchemeProducts (SchemeID, Product_Code, MinQty) VALUES
-    (1, 'A1', 0), (2, 'A1', 0), (3, 'A1', 0), (4, 'A1', 0), (5, 'A1', 0), (6, 'A1', 0),
-    (101, 'A1', 24), (101, 'B7', 6), (101, 'F1', 0), (102, 'A1', 0), (103, 'A1', 0), (104, 'B7', 0);
-INSERT INTO SchemeSlabs (SlabID, SchemeID, SlabStart, SlabEnd, SlabUnit, Onward, FreeQty, FreeUnit, DiscountPercent) VALUES
-    (11, 1, 2, 9, 3, 0, 1, 2, 0), (12, 1, 10, 999, 3, 1440, 2, 2, 0), (21, 2, 1000, 999999, 4, 1000, 1, 1, 0),
+INSERT INTO SchemeProducts (SchemeID, Product_Code, MinQty) SELECT SchemeID, 'A1', 0 FROM Schemes WHERE SchemeID < 104;
+UPDATE SchemeProducts SET MinQty = 24 WHERE SchemeID = 101;
+INSERT INTO SchemeProducts (SchemeID, Product_Code, MinQty) VALUES (101, 'B7', 6), (104, 'B7', 0);
+INSERT INTO SchemeSlabs (SlabID, SchemeID, SlabStart, SlabEnd, SlabUnit, Onward, FreeQty, FreeUnit, DiscountPercent)
+VALUES (11, 1, 2, 9, 3, 0, 1, 2, 0), (12, 1, 10, 999, 3, 1440, 2, 2, 0), (21, 2, 1000, 999999, 4, 1000, 1, 1, 0),
     (31, 3, 12, 99999, 1, 0, 1, 1, 0), (41, 4, 1, 99999, 1, 0, 1, 1, 0), (51, 5, 1, 99999, 1, 0, 1, 1, 0),
-    (61, 6, 1, 1, 2, 12, 1, 1, 0),
-    (1011, 101, 100, 499, 1, 0, 1, 2, 0), (1012, 101, 500, 99999, 1, 500, 2, 1, 0),
+    (61, 6, 1, 1, 2, 12, 1, 1, 0), (1011, 101, 100, 499, 1, 0, 1, 2, 0), (1012, 101, 500, 99999, 1, 500, 2, 1, 0),
     (1021, 102, 0, 99999, 4, 0, 1, 1, 0), (1031, 103, 1, 10, 3, 0, 0, 1, 5), (1041, 104, 1, 999, 1, 0, 1, 1, 0);
-INSERT INTO SchemeFreeItems (SlabID, Free_Item_Code) VALUES
-    (11, 'F1'), (12, 'F2'), (21, 'F3'), (31, 'P1'), (61, 'F3'), (61, 'F1');
 )SQL";
+
+constexpr const char* kMidJune = "2030-06-15 10:00:00";
+
+// Parameters as the screen sends them: text, whole numbers and other numbers.
+platform::Parameter P(const char* text) { return {text, platform::adtype::VarChar}; }
+platform::Parameter P(int number) { return {number, platform::adtype::Integer}; }
+platform::Parameter P(double number) { return {number, platform::adtype::Double}; }
 
 class SchemeProcedures : public ::testing::Test {
 protected:
-    SchemeProcedures() : db_(CreateDatabaseFromScripts(folder_.File("schemes.db"), {SchemaScript(), kRows})) {}
+    explicit SchemeProcedures(bool demo = false)
+        : db_(demo ? CreateDatabase(folder_.File("s.db"), true)
+                   : CreateDatabaseFromScripts(folder_.File("s.db"), {SchemaScript(), kRows})) {}
 
-    std::string Rows(const std::string& name, const platform::ParameterList& parameters) {
+    // The rows of the one result, all columns or only those named, joined by "/".
+    std::string Rows(const std::string& name, const platform::ParameterList& parameters,
+                     const std::vector<int>& columns = {}) {
         const auto results = db_->CallProcedure(name, parameters);
-        EXPECT_EQ(results.size(), 1u) << name;
-        return results.empty() ? "" : testkit::RowsText(results.front());
+        EXPECT_EQ(results.size(), 1u);
+        if (columns.empty()) return testkit::RowsText(results.front());
+        std::string out;
+        for (const auto& row : results.front().rows) {
+            out += out.empty() ? "" : ";";
+            for (int c : columns) out += (c == columns.front() ? "" : "/") + platform::ToText(row[c]);
+        }
+        return out;
     }
     std::string Refusal(const std::string& name, const platform::ParameterList& parameters) {
         return testkit::Refusal([&] { db_->CallProcedure(name, parameters); });
     }
-
-    // The SKU list as the screen asks it, the day given as the database writes it.
-    std::string SKUSchemes(const std::string& item, const std::string& day, double quantity, double amount,
-                           const std::string& customer = "C1", const std::string& madeBy = "") {
-        return Rows("Zuro_sp_FindDispatch_SKUSchemeID_New", {{item, VarChar},
-                                                             {day, VarChar},
-                                                             {quantity, Double},
-                                                             {customer, VarChar},
-                                                             {amount, Double},
-                                                             {madeBy, VarChar}});
+    std::string SKU(const char* item, const char* day, double quantity, double amount, const char* customer,
+                    const char* madeBy = "") {
+        return Rows("Zuro_sp_FindDispatch_SKUSchemeID_New",
+                    {P(item), P(day), P(quantity), P(customer), P(amount), P(madeBy)}, {0, 4});
     }
-    std::string SplCatSlab(long long scheme, double base, double uom1, double uom2, double value,
-                           const std::string& customer = "C1", long long type = 3) {
-        return Rows("Zuro_sp_GetDispatch_SchSlabDetails", {{scheme, Integer},
-                                                           {base, Double},
-                                                           {uom1, Double},
-                                                           {uom2, Double},
-                                                           {value, Double},
-                                                           {customer, VarChar},
-                                                           {type, Integer}});
-    }
-    std::string MinQtyMet(long long scheme, const std::string& check) {
-        return Rows("Zuro_SP_isAllItemsexistsMinQty", {{scheme, Integer}, {check, VarChar}});
+    std::string SplSlab(int scheme, double base, double uom2, const char* customer = "C1", int type = 3) {
+        return Rows("Zuro_sp_GetDispatch_SchSlabDetails",
+                    {P(scheme), P(base), P(0.0), P(uom2), P(0.0), P(customer), P(type)});
     }
 
     testkit::ScratchFolder folder_;
     std::shared_ptr<EmbeddedConnection> db_;
 };
 
-constexpr const char* kMidJune = "2030-06-15 10:00:00";
-
-TEST_F(SchemeProcedures, AnItemsSchemesAreThoseWhoseSlabTheTotalReachesInTheSlabsUnit) {
+TEST_F(SchemeProcedures, AnItemsSchemesAreThoseStandingWhoseSlabItsTotalReaches) {
     struct Case {
+        const char *item, *day;
         double quantity, amount;
-        const char* expected;
+        const char *customer, *madeBy, *expected;
     };
-    // Scheme 1 counts gross (144), scheme 6 dozens from one on, scheme 2 value.
     const Case cases[] = {
-        {11, 0, ""},
-        {12, 0, "6|A1|Dozens|3|61"},
-        {287, 0, "6|A1|Dozens|3|61"},
-        {288, 0, "1|A1|Gross Offer|3|11;6|A1|Dozens|3|61"},
-        {1296, 999.99, "1|A1|Gross Offer|3|11;6|A1|Dozens|3|61"},
-        {1368, 1000, "2|A1|Value Offer|3|21;6|A1|Dozens|3|61"},  // 9.5 gross falls between the bands
-        {1440, 0, "1|A1|Gross Offer|3|12;6|A1|Dozens|3|61"},
-        {999 * 144 + 1, 0, "6|A1|Dozens|3|61"},  // above the last band's end
+        {"A1", kMidJune, 11, 0, "C1", "", ""},                   // scheme 6 counts dozens from one on
+        {" a1 ", kMidJune, 288, 999.99, "C1", "", "1/11;6/61"},  // two gross
+        {"A1", kMidJune, 1368, 1000, "C1", "", "2/21;6/61"},     // 9.5 gross, between the bands
+        {"A1", kMidJune, 1440, 0, "C1", "", "1/12;6/61"},
+        {"A1", kMidJune, 999 * 144 + 1, 0, "C1", "", "6/61"},  // above the last band
+        {"A1", "2030-06-30 23:00:00", 12, 0, "c2 ", "", "3/31;6/61"},
+        // An amendment is judged by its note's creation day: scheme 3 was made later
+        // on the 10th, which still counts.
+        {"A1", kMidJune, 12, 0, "C2", "10/06/2030", "3/31;6/61"},
+        {"A1", kMidJune, 12, 0, "C2", "09/06/2030", "6/61"},
+        {"A1", kMidJune, 12, 0, "C2", "1", ""},  // the old note was not found
     };
     for (const Case& c : cases)
-        EXPECT_EQ(SKUSchemes("A1", kMidJune, c.quantity, c.amount), c.expected) << c.quantity << " " << c.amount;
-    // The item's code as typed, in another case and with blanks.
-    EXPECT_EQ(SKUSchemes(" a1 ", kMidJune, 288, 0), "1|A1|Gross Offer|3|11;6|A1|Dozens|3|61");
-    EXPECT_EQ(SKUSchemes("B7", kMidJune, 288, 5000), "");
+        EXPECT_EQ(SKU(c.item, c.day, c.quantity, c.amount, c.customer, c.madeBy), c.expected) << c.quantity;
+    EXPECT_EQ(Rows("Zuro_sp_FindDispatch_SKUSchemeID_New", {P("a1"), P(kMidJune), P(288.0), P("C1")}, {1, 2, 3}),
+              "A1/Gross Offer/3;A1/Dozens/3");
+
+    const auto slab = [&](int type, int slabID, const char* item) {
+        return Rows("sp_get_SKUBased_SchItemsDetail", {P(1), P("A1"), P(type), P(slabID), P(item)});
+    };
+    EXPECT_EQ(slab(3, 12, "A1"), "1|10r|999r|2r|NULL|3|2|1440r|12");
+    EXPECT_EQ(slab(3, 0, "a1"), "1|2r|9r|1r|NULL|3|2|0r|11;1|10r|999r|2r|NULL|3|2|1440r|12");
+    EXPECT_EQ(slab(17, 12, "A1") + slab(3, 12, "B7") + slab(3, 21, "A1"), "");
 }
 
-TEST_F(SchemeProcedures, AnItemsSchemesStandOnTheirDaysForTheirCustomersAsMadeByTheCreationDay) {
-    struct Case {
-        const char *day, *customer, *madeBy, *expected;
-    };
-    const Case cases[] = {
-        {"2030-06-01 00:00:00", "C1", "", "6"},
-        {"2030-06-30 23:00:00", "C1", "", "6"},
-        {"2030-05-31 23:59:59", "C1", "", ""},
-        {"2030-07-01 00:00:00", "C1", "", ""},
-        {kMidJune, "C2", "", "3;6"},
-        {kMidJune, "c2 ", "", "3;6"},
-        // An amendment judged by its note's creation day: a scheme made later that
-        // day still counts, one made the day after does not.
-        {kMidJune, "C2", "10/06/2030", "3;6"},
-        {kMidJune, "C2", "2030-06-10", "3;6"},
-        {kMidJune, "C2", "09/06/2030", "6"},
-        {kMidJune, "C2", "1", ""},  // the old note was not found
-    };
-    for (const Case& c : cases) {
-        std::string ids;
-        const std::string rows = SKUSchemes("A1", c.day, 12, 0, c.customer, c.madeBy);
-        for (const auto& row : platform::Split(rows, ";"))
-            ids += (ids.empty() ? "" : ";") + platform::Split(row, "|")[0];
-        EXPECT_EQ(ids, c.expected) << c.day << " " << c.customer << " " << c.madeBy;
-    }
-}
-
-TEST_F(SchemeProcedures, TheSlabOfAnItemsSchemeIsThatOfItsTypeAndItem) {
-    const auto slab = [&](long long scheme, const char* key, long long type, long long slabID, const char* item) {
-        return Rows("sp_get_SKUBased_SchItemsDetail",
-                    {{scheme, Integer}, {key, VarChar}, {type, Integer}, {slabID, Integer}, {item, VarChar}});
-    };
-    EXPECT_EQ(slab(1, "A1", 3, 12, "A1"), "1|10r|999r|2r|NULL|3|2|1440r|12");
-    EXPECT_EQ(slab(1, "a1", 3, 0, "A1"), "1|2r|9r|1r|NULL|3|2|0r|11;1|10r|999r|2r|NULL|3|2|1440r|12");
-    EXPECT_EQ(slab(1, "A1", 17, 12, "A1"), "");     // another type
-    EXPECT_EQ(slab(1, "A1", 3, 12, "B7"), "");      // another item than the key
-    EXPECT_EQ(slab(1, "A1", 3, 21, "A1"), "");      // a slab of another scheme
-    EXPECT_EQ(slab(101, "A1", 3, 1011, "A1"), "");  // a special category scheme
-}
-
-TEST_F(SchemeProcedures, SpecialCategorySchemesAndTheirItems) {
+TEST_F(SchemeProcedures, SpecialCategorySchemesTheirItemsAndMinimums) {
     const auto find = [&](const char* day, const char* customer, const char* madeBy) {
-        return Rows("Zuro_sp_FindSplCatSchemeID_New",
-                    {{day, VarChar}, {customer, VarChar}, {"", VarChar}, {madeBy, VarChar}});
+        return Rows("Zuro_sp_FindSplCatSchemeID_New", {P(day), P(customer), P(""), P(madeBy)}, {0});
     };
-    EXPECT_EQ(Rows("Zuro_sp_FindSplCatSchemeID_New", {{kMidJune, VarChar}, {"C1", VarChar}}),
+    EXPECT_EQ(Rows("Zuro_sp_FindSplCatSchemeID_New", {P(kMidJune), P("C1")}),
               "101|Combo|3;102|Value Combo|3;103|Gross Off|1");
-    EXPECT_EQ(find(kMidJune, "C2", ""), "101|Combo|3;102|Value Combo|3;103|Gross Off|1;104|Two Combo|3");
-    EXPECT_EQ(find(kMidJune, "C2", "09/06/2030"), "101|Combo|3;102|Value Combo|3;103|Gross Off|1");
+    EXPECT_EQ(find(kMidJune, "C2", "") + " " + find(kMidJune, "C2", "09/06/2030"), "101;102;103;104 101;102;103");
     EXPECT_EQ(find("2030-07-01 00:00:00", "C2", ""), "");
+    EXPECT_EQ(Rows("Zuro_sp_GetSplCategoryItems_New", {P(101)}), "A1|24r;B7|6r");
+    EXPECT_EQ(Rows("Zuro_sp_GetSplCategoryItems_New", {P(1)}), "");
 
-    EXPECT_EQ(Rows("Zuro_sp_GetSplCategoryItems_New", {{101, Integer}}), "A1|24r;B7|6r;F1|0r");
-    EXPECT_EQ(Rows("Zuro_sp_GetSplCategoryItems_New", {{1, Integer}}), "");  // an item scheme
-}
-
-TEST_F(SchemeProcedures, EveryItemWithAMinimumMustReachItAcrossItsRows) {
     struct Case {
-        long long scheme;
+        int scheme;
         const char *check, *expected;
     };
     const Case cases[] = {
-        {101, "A1,24,100|B7,6,50", "1"},
-        {101, "A1,12,1|B7,6,1|A1,12,1", "1"},
-        {101, "a1,24,0|B7,6,0|ZZ,1,1|", "1"},  // case, an item of no concern, a trailing separator
+        {101, "A1,12,1|B7,6,1|A1,12,1", "1"},  // one item's rows add up
+        {101, "a1,24,0|B7,6,0|ZZ,1,1|", "1"},
         {101, "A1,23.5,1|B7,6,1", "0"},
-        {101, "A1,24,1", "0"},  // B7 not on the note holds 0 of its 6
-        {101, "", "0"},
-        {102, "", "1"},        // no item asks a minimum
-        {999, "A1,1,1", "0"},  // no such scheme
-        {1, "A1,1,1", "0"},    // an item scheme
+        {101, "A1,24,1", "0"},  // B7, not on the note, holds 0 of its 6
+        {102, "", "1"},         // no item asks a minimum
+        {1, "A1,1,1", "0"},     // an item scheme
     };
-    for (const Case& c : cases) EXPECT_EQ(MinQtyMet(c.scheme, c.check), c.expected) << c.scheme << " " << c.check;
-
+    for (const Case& c : cases)
+        EXPECT_EQ(Rows("Zuro_SP_isAllItemsexistsMinQty", {P(c.scheme), P(c.check)}), c.expected) << c.check;
     for (const char* bad : {"A1,24|B7,6,1", "A1,x,1", ",1,1", "A1,1,1,1"})
-        EXPECT_THAT(Refusal("Zuro_SP_isAllItemsexistsMinQty", {{101, Integer}, {bad, VarChar}}),
-                    ::testing::HasSubstr("is not of the form item,quantity,value"))
-            << bad;
+        EXPECT_THAT(Refusal("Zuro_SP_isAllItemsexistsMinQty", {P(101), P(bad)}),
+                    ::testing::HasSubstr("is not of the form item,quantity,value"));
 }
 
-TEST_F(SchemeProcedures, TheSpecialCategorySlabIsTheOneTheTotalOfItsUnitReaches) {
-    struct Case {
-        double base;
-        const char* slab;
-    };
-    const Case bands[] = {{99.99, ""},   {100, "1011"},   {499, "1011"}, {499.5, ""},
-                          {500, "1012"}, {99999, "1012"}, {100000, ""}};
-    for (const Case& c : bands) {
-        const std::string row = SplCatSlab(101, c.base, 0, 0, 0);
-        EXPECT_EQ(row.empty() ? "" : platform::Split(row, "|")[6], c.slab) << c.base;
+TEST_F(SchemeProcedures, TheSpecialCategorySlabIsTheHighestTheTotalOfItsUnitReaches) {
+    for (auto [base, slab] : std::vector<std::pair<double, std::string>>{
+             {99.99, ""}, {100 - 1e-12, "1011"}, {499, "1011"}, {499.5, ""}, {500, "1012"}, {100000, ""}}) {
+        const std::string row = SplSlab(101, base, 0);
+        EXPECT_EQ(row.empty() ? "" : platform::Split(row, "|")[6], slab) << base;
     }
-    // A total summed from fractions of units that comes out a hair below the start
-    // still stands on it.
-    EXPECT_NE(SplCatSlab(101, 100 - 1e-12, 0, 0, 0), "");
-
-    EXPECT_EQ(SplCatSlab(101, 500, 0, 0, 0), "3|1|500r|99999r|1|500r|1012|2r|0r|0r");
-    // The screen sends a total value of 0, which reaches a value slab from 0.
-    EXPECT_EQ(SplCatSlab(102, 0, 0, 0, 0), "3|4|0r|99999r|1|0r|1021|1r|0r|0r");
-    EXPECT_EQ(SplCatSlab(103, 0, 0, 1, 0, "C1", 1), "1|3|1r|10r|1|0r|1031|0r|0r|5r");
-    EXPECT_EQ(SplCatSlab(103, 0, 0, 1, 0, "C1", 0), "1|3|1r|10r|1|0r|1031|0r|0r|5r");
-    EXPECT_EQ(SplCatSlab(103, 0, 0, 1, 0, "C1", 3), "");  // not of the type the list named
-    EXPECT_EQ(SplCatSlab(104, 5, 0, 0, 0, "C1"), "");
-    EXPECT_NE(SplCatSlab(104, 5, 0, 0, 0, "C2"), "");
-    EXPECT_EQ(SplCatSlab(1, 500, 0, 0, 0), "");  // an item scheme
+    EXPECT_EQ(SplSlab(101, 500, 0), "3|1|500r|99999r|1|500r|1012|2r|0r|0r");
+    EXPECT_EQ(SplSlab(102, 0, 0), "3|4|0r|99999r|1|0r|1021|1r|0r|0r");  // the value 0 the screen sends
+    EXPECT_EQ(SplSlab(103, 0, 1, "C1", 0), "1|3|1r|10r|1|0r|1031|0r|0r|5r");
+    EXPECT_EQ(SplSlab(103, 0, 1, "C1", 3) + SplSlab(104, 5, 0, "C1") + SplSlab(1, 500, 0), "");
+    EXPECT_NE(SplSlab(104, 5, 0, "C2"), "");
 }
 
 TEST_F(SchemeProcedures, ACustomersSchemesOfTheDayAreCounted) {
     const auto count = [&](const char* day, const char* customer) {
-        return Rows("Zuro_sp_Check_SchExistsForCust", {{day, VarChar}, {customer, VarChar}});
+        return Rows("Zuro_sp_Check_SchExistsForCust", {P(day), P(customer)});
     };
-    EXPECT_EQ(count(kMidJune, "C1"), "7");  // all but the switched-off one and those of C2 alone
-    EXPECT_EQ(count(kMidJune, "C2"), "9");
-    EXPECT_EQ(count("2030-07-01 00:00:00", "C2"), "0");
-}
-
-TEST_F(SchemeProcedures, FreeGoodsCountOnlyFromTheMasterWithLiveStockOrNoneKept) {
-    struct Case {
-        long long scheme, slab;
-        const char* expected;
-    };
-    const Case cases[] = {
-        {1, 11, "1"},  // F1 in stock
-        {1, 12, "0"},  // F2: nothing left, and an expired batch
-        {2, 21, "0"},  // F3 has left the master with stock
-        {3, 31, "1"},  // P1 keeps no stock
-        {6, 61, "1"},  // F3 out, F1 in
-        {2, 11, "0"},  // a slab of another scheme
-    };
-    for (const Case& c : cases)
-        EXPECT_EQ(Rows("Zuro_SP_ListFreeSKUCount", {{c.scheme, Integer}, {c.slab, Integer}}), c.expected)
-            << c.scheme << "/" << c.slab;
+    EXPECT_EQ(count(kMidJune, "C1") + count(kMidJune, "C2") + count("2030-07-01", "C2"), "790");
 }
 
 TEST_F(SchemeProcedures, MalformedArgumentsAreRefused) {
-    const platform::ParameterList good{{"A1", VarChar}, {kMidJune, VarChar}, {12, Double},
-                                       {"C1", VarChar}, {0, Double},         {"", VarChar}};
-    const auto with = [&](std::size_t at, platform::Parameter parameter) {
-        platform::ParameterList list = good;
-        list[at] = parameter;
-        return Refusal("Zuro_sp_FindDispatch_SKUSchemeID_New", list);
-    };
-    EXPECT_EQ(with(1, {"15 June", VarChar}),
-              "Conversion failed when converting date and/or time from character string.");
-    EXPECT_EQ(with(2, {"a dozen", VarChar}), "Error converting data type varchar to float.");
-    EXPECT_EQ(with(5, {"soon", VarChar}), "Conversion failed when converting date and/or time from character string.");
-    EXPECT_EQ(Refusal("Zuro_sp_FindDispatch_SKUSchemeID_New", {good.begin(), good.begin() + 3}),
+    const char* sku = "Zuro_sp_FindDispatch_SKUSchemeID_New";
+    const char* badDate = "Conversion failed when converting date and/or time from character string.";
+    EXPECT_EQ(Refusal(sku, {P("A1"), P("15 June"), P(12.0), P("C1")}), badDate);
+    EXPECT_EQ(Refusal(sku, {P("A1"), P(kMidJune), P(12.0), P("C1"), P(0.0), P("soon")}), badDate);
+    EXPECT_EQ(Refusal(sku, {P("A1"), P(kMidJune), P(12.0)}),
               "Procedure or function 'Zuro_sp_FindDispatch_SKUSchemeID_New' expects parameter '@CustomerID', which "
               "was not supplied.");
-    platform::ParameterList tooMany = good;
-    tooMany.push_back({1, Integer});
-    EXPECT_EQ(Refusal("Zuro_sp_FindDispatch_SKUSchemeID_New", tooMany),
-              "Procedure or function Zuro_sp_FindDispatch_SKUSchemeID_New has too many arguments.");
-    EXPECT_EQ(Refusal("sp_get_SKUBased_SchItemsDetail",
-                      {{"one", VarChar}, {"A1", VarChar}, {3, Integer}, {0, Integer}, {"A1", VarChar}}),
-              "Conversion failed when converting the varchar value 'one' to data type int.");
-    EXPECT_EQ(Refusal("Zuro_sp_GetDispatch_SchSlabDetails", {{101, Integer}, {1, Double}}),
-              "Procedure or function 'Zuro_sp_GetDispatch_SchSlabDetails' expects parameter '@TotalUOM1Qty', which "
-              "was not supplied.");
-    EXPECT_EQ(Refusal("Zuro_sp_FindSplCatSchemeID_New", {{"C1", VarChar}, {kMidJune, VarChar}}),
-              "Conversion failed when converting date and/or time from character string.");
 }
 
-// The demo note's paths as docs/demo-data.md tells them.
-TEST(DemoSchemes, TheDocumentedQuantitiesCrossTheirSlabsAndTheRefusedFreeGoodsCannotBeHad) {
-    testkit::ScratchFolder folder;
-    const auto db = CreateDatabase(folder.File("demo.db"), true);
-    const platform::Value today = testkit::LocalNow();
-    const auto reached = [&](const char* item, double quantity, double amount, const char* customer) {
-        const auto results = db->CallProcedure(
-            "Zuro_sp_FindDispatch_SKUSchemeID_New",
-            {{item, VarChar}, {today, Date}, {quantity, Double}, {customer, VarChar}, {amount, Double}, {"", VarChar}});
-        std::string out;
-        for (const auto& row : results.front().rows)
-            out += (out.empty() ? "" : ";") + platform::ToText(row[0]) + "/" + platform::ToText(row[4]);
-        return out;
-    };
-    struct Case {
-        const char* item;
-        double quantity, amount;
-        const char *customer, *expected;
-    };
-    const Case cases[] = {
-        {"FD001", 456, 0, "C005", ""},
-        {"FD001", 480, 0, "C005", "201/2011"},
-        {"FD001", 2280, 0, "C005", ""},
-        {"FD001", 2400, 0, "C005", "201/2012"},
-        {"BV001", 72, 1080, "C005", "202/2021"},
-        {"FD002", 120, 0, "C005", "203/2031"},
-        {"FD004", 12, 0, "C005", "204/2041"},
-        {"HC001", 50, 0, "C003", "205/2051"},
-        {"HC001", 50, 0, "C005", ""},
-        {"BV002", 12, 0, "C005", "206/2061"},
-        {"PC003", 6, 0, "C005", "209/2091"},
-        {"PC003", 500, 0, "C005", "209/2091"},  // 208 is off
-    };
-    for (const Case& c : cases)
-        EXPECT_EQ(reached(c.item, c.quantity, c.amount, c.customer), c.expected) << c.item << " " << c.quantity;
+class DemoSchemes : public SchemeProcedures {
+protected:
+    DemoSchemes() : SchemeProcedures(true) {}
+};
 
-    const auto slab = [&](long long scheme, double base, double uom1) {
-        const auto rows = db->CallProcedure("Zuro_sp_GetDispatch_SchSlabDetails", {{scheme, Integer},
-                                                                                   {base, Double},
-                                                                                   {uom1, Double},
-                                                                                   {0, Double},
-                                                                                   {0, Double},
-                                                                                   {"C005", VarChar},
-                                                                                   {3, Integer}})
-                              .front()
-                              .rows;
-        return rows.empty() ? std::string() : platform::ToText(rows.front()[6]);
-    };
-    EXPECT_EQ(slab(301, 504, 0), "3011");
-    EXPECT_EQ(slab(305, 30, 0), "3051");
-    EXPECT_EQ(slab(306, 50, 0), "3061");
-    EXPECT_EQ(slab(306, 49, 0), "");
-
-    const auto available = [&](long long scheme, long long slabID) {
-        return platform::ToText(
-            db->CallProcedure("Zuro_SP_ListFreeSKUCount", {{scheme, Integer}, {slabID, Integer}}).front().rows[0][0]);
-    };
-    for (auto [scheme, slabID] : {std::pair{203, 2031}, std::pair{209, 2091}, std::pair{306, 3061}})
-        EXPECT_EQ(available(scheme, slabID), "0") << scheme;
-    for (auto [scheme, slabID] : {std::pair{201, 2011}, std::pair{206, 2061}, std::pair{305, 3051}})
-        EXPECT_EQ(available(scheme, slabID), "1") << scheme;
+// Free goods on the demo data: none in stock (203, 306), off the master with stock
+// left (209), in stock (201), keeping no stock (305).
+TEST_F(DemoSchemes, FreeGoodsCountOnlyFromItemsInTheMasterWithLiveStockOrNoneKept) {
+    for (auto [scheme, slab, answer] :
+         {std::tuple{203, 2031, "0"}, {209, 2091, "0"}, {306, 3061, "0"}, {201, 2011, "1"}, {305, 3051, "1"}})
+        EXPECT_EQ(Rows("Zuro_SP_ListFreeSKUCount", {P(scheme), P(slab)}), answer) << slab;
 }
 
 }  // namespace

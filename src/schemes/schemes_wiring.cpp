@@ -1,6 +1,7 @@
 // The scheme button, and the scheme routines a host holding the form may call by
 // name. Routines that take the form's grid or a record set get it from the form.
 #include "grid/row_model/grid_columns.h"
+#include "platform/convert.h"
 #include "screen/routine_binder.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
@@ -8,6 +9,19 @@ namespace screen {
 
 void Zuro_frmDispatch_Dispatch::WireSchemes() {
     cmdApplyScheme.Click.Connect([this] { cmdApplyScheme_Click(); });
+
+    // The scheme memory a host may read back after a run.
+    for (auto [name, field] :
+         {std::pair{"szFailedSKU", &szFailedSKU}, std::pair{"szSchemeCustomer", &szSchemeCustomer}})
+        fields_[name] = [field] { return *field; };
+    for (auto [name, field] :
+         {std::pair{"bSchemesApplied", &bSchemesApplied}, std::pair{"bSplCatRefused", &bSplCatRefused},
+          std::pair{"bSplCatFreeMissing", &bSplCatFreeMissing}, std::pair{"bFreeItemMissing", &bFreeItemMissing},
+          std::pair{"bSchemeRunning", &bSchemeRunning}})
+        fields_[name] = [field] { return platform::ToText(platform::Value(*field)); };
+    for (auto [name, field] :
+         {std::pair{"nPrevSKUCount", &nPrevSKUCount}, std::pair{"nPrimaryRowCount", &nPrimaryRowCount}})
+        fields_[name] = [field] { return platform::ToText(platform::Value(*field)); };
 
     using Self = Zuro_frmDispatch_Dispatch;
     RoutineBinder routines(routines_, *this);

@@ -23,6 +23,7 @@ int DTFlex::GridCols() const { return static_cast<int>(columns_.size()) - 1; }
 
 void DTFlex::SetGridRows(int rows) {
     if (rows < 0) throw RuntimeError(err::InvalidPropertyValue);
+    ++contentStamp_;
     cells_.resize(static_cast<std::size_t>(rows) + 1, std::vector<std::string>(columns_.size()));
     if (row_ > rows) {
         // The current row is gone: the cell falls back to the last row without an
@@ -35,6 +36,7 @@ void DTFlex::SetGridRows(int rows) {
 
 void DTFlex::SetGridCols(int cols) {
     if (cols < 0) throw RuntimeError(err::InvalidPropertyValue);
+    ++contentStamp_;
     for (auto& row : cells_) row.resize(static_cast<std::size_t>(cols) + 1);
     if (droppedList_ && col_ > cols) HideDroppedList();
     columns_.resize(static_cast<std::size_t>(cols) + 1);
@@ -56,11 +58,13 @@ std::string DTFlex::GetCell(int row, int col) const {
 
 void DTFlex::SetCell(int row, int col, std::string text) {
     CheckCell(row, col);
+    ++contentStamp_;
     cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)] = std::move(text);
 }
 
 void DTFlex::RemoveRow(int row) {
     if (row < 1 || row > GridRows()) throw RuntimeError(kInvalidArrayIndex);
+    ++contentStamp_;
     cells_.erase(cells_.begin() + row);
     if (row < row_) {
         // The current cell stays on its row, which has moved up one place.
@@ -75,6 +79,7 @@ void DTFlex::RemoveRow(int row) {
 void DTFlex::ClearGrid() {
     DropEdit();
     HideDroppedList();
+    ++contentStamp_;
     for (std::size_t r = 1; r < cells_.size(); ++r) std::fill(cells_[r].begin(), cells_[r].end(), std::string());
     row_ = 1;
     col_ = 1;

@@ -31,6 +31,13 @@ public:
     void RemoveRow(int row);         // rows below move up
     void ClearGrid();                // every data row's contents emptied
     bool IsBlankRow(int row) const;  // every cell of the row (columns 1 up) empty; false for no such row
+    // Redraws the grid. The cells are always current here; a driver can still tell
+    // that the program asked for a redraw.
+    void RefreshGrid() { ++redraws_; }
+    // Changes whenever any cell, row or column changes, so that a reader may keep
+    // what it worked out of the cells until then.
+    unsigned long ContentStamp() const { return contentStamp_; }
+    unsigned Redraws() const { return redraws_; }
 
     // ---- current cell and editing --------------------------------------------
     int GridRow() const { return row_; }
@@ -155,6 +162,8 @@ private:
     // removal of the current row), so that code which raised an event can tell
     // whether a handler moved on meanwhile.
     unsigned cellStamp_ = 0;
+    unsigned redraws_ = 0;
+    unsigned long contentStamp_ = 0;
     Control* droppedList_ = nullptr;      // the attached list the grid dropped down
     std::unique_ptr<TextBox> editorBox_;  // made on first use (EditorBox)
     bool takingEditorBoxText_ = false;

@@ -69,6 +69,7 @@ bool DTFlex::CommitEdit() {
     const std::string typed = editText_;
     // The handler judges the row as it will stand, so the text is in the cell
     // before the event; the editor counts as closed while the handler runs.
+    ++contentStamp_;
     cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)] = typed;
     editing_ = false;
     const unsigned stamp = ++cellStamp_;

@@ -186,7 +186,10 @@ void DTFlex::EmptyEditor() {
 void DTFlex::GiveUpEdit() {
     if (editing_) {
         auto& cell = cells_[static_cast<std::size_t>(row_)][static_cast<std::size_t>(col_)];
-        if (refusedText_ && cell == *refusedText_) cell = textBeforeEdit_;
+        if (refusedText_ && cell == *refusedText_) {
+            cell = textBeforeEdit_;
+            ++contentStamp_;
+        }
         DropEdit();
     }
     HideDroppedList();

@@ -62,17 +62,23 @@ void Zuro_frmDispatch_Dispatch::Add_Unique_Serial(long& nRow, std::int16_t& iRes
     });
 }
 
-// The first row carrying the serial; 0 when none does.
+// The first row carrying the serial; 0 when none does. The walk down the grid is
+// made once for as long as the grid stays as it is: the scheme passes ask after
+// every link of every line.
 long Zuro_frmDispatch_Dispatch::getRowNumber(long nSerial) {
     long nFound = 0;
     platform::RunHandled(host_.global, "Dispatch - getRowNumber: ", [&] {
-        for (int nLine = 1; nLine <= DTFlexDispatch.GridRows(); ++nLine) {
-            if (platform::ToNumber(platform::Value(DTFlexDispatch.GetCell(nLine, grid::colSerialNo))) ==
-                static_cast<double>(nSerial)) {
-                nFound = nLine;
-                return;
-            }
+        const auto& grid = DTFlexDispatch;
+        if (!serialIndex_.read || serialIndex_.stamp != grid.ContentStamp()) {
+            serialIndex_.rows.clear();
+            for (int nLine = 1; nLine <= grid.GridRows(); ++nLine)
+                serialIndex_.rows.try_emplace(
+                    platform::ToNumber(platform::Value(grid.GetCell(nLine, grid::colSerialNo))), nLine);
+            serialIndex_.read = true;
+            serialIndex_.stamp = grid.ContentStamp();
         }
+        const auto found = serialIndex_.rows.find(static_cast<double>(nSerial));
+        if (found != serialIndex_.rows.end()) nFound = found->second;
     });
     return nFound;
 }

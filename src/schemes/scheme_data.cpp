@@ -60,6 +60,7 @@ std::string Zuro_frmDispatch_Dispatch::AddStringwithCheck(const std::string& szS
 // and, when the row goes, its own free rows.
 void Zuro_frmDispatch_Dispatch::CheckScheme(long nRow, bool isRowDeleted, platform::DTFlex& DTFlexProducts) {
     platform::RunHandled(host_.global, "Invoice : CheckScheme : - ", [&] {
+        bSplCatApplied = false;
         if (nRow < 1 || nRow > DTFlexProducts.GridRows()) return;
         const int nAt = static_cast<int>(nRow);
         if (DTFlexProducts.IsBlankRow(nAt)) return;

@@ -2,6 +2,10 @@
 // the free item's own sales unit, priced at nothing, and then put through the same
 // quantity step as a typed line so that it takes its batches.
 //
+// The SKU evaluation makes the same row with its own small differences (SkuFreeRow):
+// the link to every primary serial, the cell moved to the price before the Enter,
+// and the detail string written after it.
+//
 // No handler of its own: a failure belongs to the scheme routine that asked for the
 // row, which stops with the rows made so far left in the grid.
 #include "grid/row_model/grid_columns.h"
@@ -15,7 +19,7 @@ using namespace grid;
 
 long Zuro_frmDispatch_Dispatch::MakeSchemeFreeRow(long nPrimaryRow, long nSchemeID, long nSlabID,
                                                   const std::string& szFreeCode, double fFree,
-                                                  std::string& szNewSerials) {
+                                                  std::string& szNewSerials, const SkuFreeRow* pSkuRow) {
     auto& global = host_.global;
     auto& grid = DTFlexDispatch;
     const int nPrimary = static_cast<int>(nPrimaryRow);
@@ -28,7 +32,9 @@ long Zuro_frmDispatch_Dispatch::MakeSchemeFreeRow(long nPrimaryRow, long nScheme
         Add_Unique_Serial(nSerialRow, iResetAll, bToSet);
     }
 
-    grid.SetCell(nFreeRow, colItemCheck, platform::NumberToText(global.ToNumber(grid.GetCell(nPrimary, colSerialNo))));
+    grid.SetCell(nFreeRow, colItemCheck,
+                 pSkuRow ? pSkuRow->szPrimarySerials
+                         : platform::NumberToText(global.ToNumber(grid.GetCell(nPrimary, colSerialNo))));
 
     if (objItemList) objItemList->SetEnabled(true);
     grid.SetCell(nFreeRow, colItemCode, szFreeCode);
@@ -52,7 +58,7 @@ long Zuro_frmDispatch_Dispatch::MakeSchemeFreeRow(long nPrimaryRow, long nScheme
 
     szNewSerials += grid.GetCell(nFreeRow, colSerialNo) + ",";
 
-    grid.SetCell(nFreeRow, colMultiSchemeDetail, MultiSchemeDetail(nSchemeID, nSlabID));
+    if (!pSkuRow) grid.SetCell(nFreeRow, colMultiSchemeDetail, MultiSchemeDetail(nSchemeID, nSlabID));
     grid.SetCell(nFreeRow, colSalePrice, "0");
 
     for (const auto& [nProperty, nColumn] :
@@ -71,7 +77,15 @@ long Zuro_frmDispatch_Dispatch::MakeSchemeFreeRow(long nPrimaryRow, long nScheme
     grid.SetGridRow(nFreeRow);
     grid.SetGridCol(colQuantity);
     int nKey = platform::keys::Enter;
-    DTFlexDispatch_KeyCode(nKey, global.GetShiftMask());
+    if (!pSkuRow) {
+        DTFlexDispatch_KeyCode(nKey, global.GetShiftMask());
+        return nFreeRow;
+    }
+    // Moving to the quantity may have moved the grid on; the Enter belongs to the free row.
+    if (grid.GridRow() != nFreeRow) grid.SetGridRow(nFreeRow);
+    grid.SetGridCol(colSalePrice);
+    DTFlexDispatch_KeyCode(nKey, 0);
+    grid.SetCell(nFreeRow, colMultiSchemeDetail, MultiSchemeDetail(nSchemeID, nSlabID));
     return nFreeRow;
 }
 

@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/controls.h"
@@ -311,8 +312,13 @@ public:
     static std::string MultiSpecialCatSchemeDetail(long nSchemeID, long nSlabID);
     // A free row for a primary row at the bottom of the grid; its serial and a comma
     // go onto szNewSerials. Answers the free row.
+    // The SKU evaluation's free row links to every primary serial of its item, moves
+    // the grid's cell to column 5 before its Enter and writes its detail string last.
+    struct SkuFreeRow {
+        std::string szPrimarySerials;
+    };
     long MakeSchemeFreeRow(long nPrimaryRow, long nSchemeID, long nSlabID, const std::string& szFreeCode, double fFree,
-                           std::string& szNewSerials);
+                           std::string& szNewSerials, const SkuFreeRow* pSkuRow = nullptr);
 
     // The document's scheme memory: per item (0 code, 1 base quantity, 2 amount,
     // 3 serials, 4 rows) at the last scheme run and now, and for whom and when.
@@ -323,6 +329,58 @@ public:
     platform::Date dtSchemeDate{};
     bool bSplCatRefused = false, bSplCatFreeMissing = false;
     void ResetSchemeMemory();
+
+    // ---- the scheme passes: dispatch item, special category and SKU schemes ----------
+    bool bSchemeRunning = false;    // a scheme routine is looking for free goods and writing free rows
+    bool bFreeItemMissing = false;  // a free item could not be had; kept for the host, read nowhere here
+    bool bSchemesApplied = false;   // one complete run of the scheme button has been made
+    bool bCustomerHasScheme = false;
+    // Two marks of the special category pass that the screen has always kept and
+    // never read.
+    bool bSplCatApplied = false, bSplCatReverted = false;
+    double fUOMRate = 0;  // the unit rate of the row in hand; 1 while a free row is written
+    long nCurrPrimaryRowCount = 0;
+    std::string szFailedSKU;  // the item whose free SKU failed in the last application
+    // Mode 7: the stored note's own date and creation date, by which its schemes are judged.
+    platform::Date dtOldDispatchDate{};
+    std::string szOldCreationDate;
+
+    void cmdApplyScheme_Click();
+    SkuArray PopulateItemArray(long& nCount);
+    long GetGridRowCnt();
+    void RevertAllSkuSchemes(const SkuArray& arrUnused);
+    bool ApplyShemesForAllSKU();
+    void ReverSKUScheme(const std::string& szItemCode, const std::string& szRows);
+    bool FreeItemExits(const std::string& szItemCode, const std::string& szRows);
+    bool FindSKUSchemes(const std::string& szItemCode, double nQuantity, double nAmount,
+                        const std::string& szPrimarySerial, const std::string& szPrimaryRowNos,
+                        const std::string& CreationDate);
+    bool ApplySKUScheme(long nSchemeType, platform::DTFlex& DTFlexProducts, const std::string& szPrimaryRows,
+                        platform::Recordset& rsSlab, long nSchemeID, const std::string& szSchName, long nSlabID,
+                        const std::string& szPrimaryItemCode, double dTotPrimaryQty, double dTotPrimaryAmount,
+                        const std::string& szPrimarySerail);
+    void CheckSchemeExistsForCustomer();
+    std::string GetCustomerKey();
+
+    void FindDispatchSchemes(const std::string& szItemCode, double nQuantity, platform::Date DServerDate, long nRow,
+                             const std::string& CreationDate);
+    void ApplyItemScheme(long nSchemeType, platform::DTFlex& DTFlexProducts, long nRowIndex,
+                         platform::Recordset& rsSlab, const std::string& szPromptMssg, double nQty,
+                         std::int16_t nSchemeID, const std::string& szSchName, long nSlabID);
+
+    bool FindSpecialCategoryScheme(platform::DTFlex& DTFlexProducts, bool& bResult);
+    void ApplySpecialCategoryScheme(std::vector<std::string>& vSplit1, std::vector<std::string>& vFreeItems,
+                                    long& nSchemeID, double& nTotQty, double& nUOM1Qty, double& nUOM2Qty,
+                                    double& nTotAmount, long& nQtyOrValueSlab, double& nFactor, long& nSchemeType,
+                                    double& dDiscountAmount, platform::DTFlex& DTFlexProducts, long& nSlabID,
+                                    double& nApplicableQty);
+    void RevertAllSpecialCatScheme(platform::DTFlex& DTFlexProducts);
+    void RevertSplCatScheme(long nSchemeID, long nSchemeType, long nSplCatCode, const std::string& szAlternateMessage,
+                            platform::DTFlex& DTFlexProducts);
+    bool IsAppliedSplScheme(long nSplSchemeID, long nSplCatCode, platform::DTFlex& DTFlexProducts);
+    bool SplCatFreeItemDeleted(bool& bResult);
+    void ClearDispatchFreeItemSch();
+    void WireSchemes();
 
     // The grid's keys and rows.
     bool bSchemeViewKey = false;  // true while Space in colQuantity shows the item's schemes
@@ -432,6 +490,15 @@ private:
     void SelectActiveText();
     void LoadOnce();
     void PlaceApplySchemeBesideMemo();
+
+    // The grid's rows by serial as getRowNumber finds them (the first row carrying
+    // it), good while the grid's content stamp stands where it was read.
+    struct SerialIndex {
+        bool read = false;
+        unsigned long stamp = 0;
+        std::unordered_map<double, long> rows;
+    };
+    SerialIndex serialIndex_;
 
     host_services::HostServices host_;
     host_services::HostContext* objHostContext_ = nullptr;  // the running component's context

@@ -1,0 +1,148 @@
+// The scheme button over item (SKU) schemes: what a first run adds, that a run with
+// nothing changed touches nothing, that a change reruns its item alone, and the
+// refusals. Item schemes applied to one line (FindDispatchSchemes) at the end.
+#include "schemes_fixture.h"
+
+namespace screen_test {
+namespace {
+
+using namespace grid;
+
+class SkuSchemes : public SchemeNote {
+protected:
+    void SetUp() override {
+        SchemeNote::SetUp();
+        AddScheme(901, 1, {{"FD003", 0}}, 10, 10, 1, "PM002");  // one free for every 10 from 10 up
+        AddScheme(902, 1, {{"PC003", 0}}, 5, 0, 2, "PM002");    // two free once, from 5 up
+    }
+};
+
+TEST_F(SkuSchemes, TheButtonRerunsOnlyTheItemsWhoseTotalsChanged) {
+    Line("FD003", 25);
+    Line("PC003", 6);
+    Line("FD003", 5);
+    Choose("PM002", 2);
+    Click();
+    ASSERT_EQ(Errors(), 0) << ErrorLines();
+
+    // One free row an item, under the lines, each followed by a blank row that the
+    // next free row takes; both lines of FD003 link to FD003's free row.
+    EXPECT_EQ(form->DTFlexDispatch.GridRows(), 6);
+    EXPECT_EQ(Cell(4, colQuantity), "3");  // 30 counts three steps of 10
+    EXPECT_EQ(Cell(4, colItemCheck), "1,3");
+    EXPECT_EQ(Cell(5, colQuantity), "2");  // a step of 0 gives the free quantity once
+    EXPECT_EQ(Cell(5, colItemCheck), "2");
+    EXPECT_EQ(Cell(4, colMultiSchemeDetail), "901|9011|0|0");
+    for (const auto& [row, check, scheme] : {std::tuple{1, ",4", "901"}, {3, ",4", "901"}, {2, ",5", "902"}}) {
+        EXPECT_EQ(Cell(row, colItemCheck), check) << row;
+        EXPECT_EQ(Cell(row, colSchemeID), scheme) << row;
+    }
+    EXPECT_TRUE(form->bSchemesApplied);
+    EXPECT_EQ(form->ActiveControl(), &form->cmdSave);
+
+    const auto before = Rows();
+    Click();
+    EXPECT_EQ(FreeItemDialogs(), 2);
+    EXPECT_EQ(Rows(), before);
+
+    // PC003 to 40: only PC003 is asked again, and still earns its two once.
+    SetQuantity(2, 40);
+    Choose("PM002");
+    Click();
+    EXPECT_EQ(FreeItemDialogs(), 3);
+    EXPECT_EQ(FreeItemDialogs("902"), 2);
+    ASSERT_EQ(FreeRowsOf("PM002").size(), 2u);
+    EXPECT_TRUE(form->bFlushRow);
+    ExpectLinksHold();
+
+    // FD003 below its slab: its free row goes and its lines forget the scheme.
+    SetQuantity(1, 1);
+    SetQuantity(3, 1);
+    Click();
+    EXPECT_EQ(FreeItemDialogs(), 3);
+    ASSERT_EQ(FreeRowsOf("PM002").size(), 1u);
+    EXPECT_EQ(Cell(FreeRowsOf("PM002")[0], colItemCheck), "2");
+    EXPECT_EQ(Cell(1, colSchemeID), "0");
+    EXPECT_EQ(Cell(1, colItemCheck), "");
+    ExpectLinksHold();
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(SkuSchemes, DeletingALineTakesTheFreeRowsItAloneClaimed) {
+    Line("FD003", 10);
+    Line("PC003", 5);
+    Choose("PM002", 2);
+    Click();
+    ASSERT_EQ(FreeRowsOf("PM002").size(), 2u);
+
+    form->DTFlexDispatch.UserDeleteRow(2);
+    ASSERT_EQ(FreeRowsOf("PM002").size(), 1u);
+    EXPECT_EQ(Cell(FreeRowsOf("PM002")[0], colItemCheck), "1");
+    ExpectLinksHold();
+
+    // One line fewer: every item afresh, and FD003 earns its row once more.
+    Choose("PM002");
+    Click();
+    EXPECT_EQ(FreeRowsOf("PM002").size(), 1u);
+    ExpectLinksHold();
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(SkuSchemes, AFreeItemThatCannotBeHadStopsTheItemAndIsRetriedNextTime) {
+    AddScheme(903, 1, {{"FS001", 0}}, 1, 0, 1, "FD005");  // FD005 has no stock
+    const struct {
+        std::string answer, words;
+        bool stocked;
+    } cases[] = {
+        {"", "Free SKU is not available/Selected For the Primary Item - FS001", false},
+        {"none", "Free Item Not selected For The Primary Item -  FS001", true},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.words);
+        if (c.stocked) Scalar("UPDATE SchemeFreeItems SET Free_Item_Code = 'PM002' WHERE SlabID = 9031");
+        form->ResetSchemeMemory();
+        form->DTFlexDispatch.ClearGrid();
+        form->DTFlexDispatch.SetGridRows(1);
+        Line("FS001", 3);
+        if (!c.answer.empty()) Choose(c.answer);
+        Click();
+        EXPECT_EQ(LastStatus(), c.words);
+        EXPECT_EQ(form->szFailedSKU, "FS001");
+        EXPECT_TRUE(form->bFreeItemMissing);
+        EXPECT_FALSE(form->bSchemesApplied);
+        EXPECT_EQ(form->ActiveControl(), &form->cmdApplyScheme);
+        EXPECT_EQ(FreeRowsOf("PM002").size(), 0u);
+    }
+    // Chosen this time: the item that failed gets its row.
+    Choose("PM002");
+    SetQuantity(1, 4);
+    Click();
+    EXPECT_EQ(FreeRowsOf("PM002").size(), 1u);
+    EXPECT_EQ(form->szFailedSKU, "");
+    EXPECT_TRUE(form->bSchemesApplied);
+    ExpectLinksHold();
+}
+
+TEST_F(SkuSchemes, ALineOnItsOwnEarnsOrIsMarked) {
+    AddScheme(903, 1, {{"FS001", 0}}, 1, 0, 1, "FD005");
+    const int fd003 = Line("FD003", 25);
+    const int fs001 = Line("FS001", 2);
+    Choose("PM002");
+    form->FindDispatchSchemes("FD003", 25, Today(), fd003, "");
+    form->FindDispatchSchemes("FS001", 2, Today(), fs001, "");
+    ASSERT_EQ(Errors(), 0) << ErrorLines();
+
+    // The blank row became the free row; its link is the line's serial, no comma.
+    const auto free = FreeRowsOf("PM002");
+    ASSERT_EQ(free.size(), 1u);
+    EXPECT_EQ(Cell(free[0], colQuantity), "2");
+    EXPECT_EQ(Cell(fd003, colItemCheck), Cell(free[0], colSerialNo));
+    EXPECT_EQ(Cell(fd003, colSchemeID), "901");
+    EXPECT_EQ(Cell(free[0], colSchemeID), "901");
+    EXPECT_EQ(Cell(fd003, colSchemeCustID), form->txtCustomer.Text());
+    EXPECT_EQ(Cell(fs001, colFreeItmIgnored), "1");
+    EXPECT_FALSE(form->bSchemeRunning);
+}
+
+}  // namespace
+}  // namespace screen_test

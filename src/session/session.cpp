@@ -29,6 +29,7 @@ std::string WhyNoFocus(const platform::Control& control) {
 Session::Session(std::ostream& out, SessionOptions options)
     : out_(out), options_(std::move(options)), database_(folder_, options_.databaseFile) {
     transcript.onLine = [this](const std::string& line) { out_ << line << '\n'; };
+    sqlTrace.on = options_.traceSql;
 }
 
 // The screens go before the host whose services they hold.
@@ -49,7 +50,7 @@ host::PlainHost& Session::Host(const ScriptCommand& command) {
     }
     faults_ = std::make_shared<platform::FaultInjectingConnection>(connection);
     connection = faults_;
-    if (options_.traceSql) connection = TraceStatements(connection, transcript);
+    connection = TraceStatements(connection, transcript, sqlTrace);
     host_ = std::make_unique<host::PlainHost>(connection, settings, transcript, answers);
     host_->SetOutputFolder(printFolder);
     try {

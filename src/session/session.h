@@ -21,6 +21,7 @@
 #include "session/script_parser.h"
 #include "session/session_database.h"
 #include "session/session_options.h"
+#include "session/sql_trace.h"
 
 namespace session {
 
@@ -34,6 +35,8 @@ public:
     host::Settings settings;
     host::DialogAnswers answers;
     host::Transcript transcript;
+    // Statements shown in the transcript: on for the whole run with --trace-sql.
+    SqlTrace sqlTrace;
     // The last `call`, for `expect result`.
     std::optional<screen::RoutineCall> lastCall;
 

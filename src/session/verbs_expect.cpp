@@ -32,6 +32,16 @@ void CheckNumber(Session& session, const ScriptCommand& command, long found) {
     Check(session, command, found == wanted, fmt::format("was {}", found));
 }
 
+// How many of the lines traced since `trace sql on` contain the text.
+void Traced(Session& session, const ScriptCommand& command) {
+    RequireArguments(command, 3, 3, "traced \"TEXT\" N");
+    const auto& lines = session.sqlTrace.lines;
+    const auto found = std::count_if(lines.begin(), lines.end(), [&](const std::string& line) {
+        return line.find(command.Argument(2)) != std::string::npos;
+    });
+    CheckNumber(session, command, static_cast<long>(found));
+}
+
 void Status(Session& session, const ScriptCommand& command) {
     RequireArguments(command, 2, 2, "status \"TEXT\"");
     const auto* status = session.transcript.LastStatus();
@@ -212,7 +222,7 @@ const std::map<std::string, ExpectHandler>& Checks() {
         {"enabled", Enabled}, {"field", Field},     {"list", List},         {"items", Items},
         {"checked", Checked}, {"cell", Cell},       {"rows", Rows},         {"sql", Sql},
         {"result", Result},   {"errors", Errors},   {"current", Current},   {"selected", Selected},
-        {"printed", Printed},
+        {"printed", Printed}, {"traced", Traced},
     };
     return checks;
 }

@@ -74,9 +74,23 @@ void Fault(Session& session, const ScriptCommand& command) {
         throw ScriptError(command.line, "fault takes fail or no-rows");
 }
 
+// Tracing a stretch of the script: `trace sql on` shows every statement and
+// procedure call from here on and starts afresh the lines `expect traced` counts.
+void Trace(Session& session, const ScriptCommand& command) {
+    RequireArguments(command, 2, 2, "sql on|off");
+    const std::string& state = command.Argument(2);
+    if (command.Argument(1) != "sql" || (state != "on" && state != "off"))
+        throw ScriptError(command.line, "trace takes sql on or sql off");
+    if (state == "on")
+        session.sqlTrace.TurnOn();
+    else
+        session.sqlTrace.on = false;
+}
+
 }  // namespace
 
 void AddSetupVerbs(VerbTable& verbs) {
+    verbs["trace"] = Trace;
     verbs["fault"] = Fault;
     verbs["database"] = Database;
     verbs["sql"] = Sql;

@@ -12,6 +12,7 @@
 #include "server/database_files.h"
 #include "server/schema.h"
 #include "server_test_support.h"
+#include "support/scratch_files.h"
 
 namespace server {
 namespace {
@@ -52,8 +53,8 @@ platform::Parameter P(double number) { return {number, platform::adtype::Double}
 class SchemeProcedures : public ::testing::Test {
 protected:
     explicit SchemeProcedures(bool demo = false)
-        : db_(demo ? CreateDatabase(folder_.File("s.db"), true)
-                   : CreateDatabaseFromScripts(folder_.File("s.db"), {SchemaScript(), kRows})) {}
+        : db_(demo ? CreateDatabase(test_support::ScratchPath("schemes", ".db"), true)
+                   : CreateDatabaseFromScripts(test_support::ScratchPath("schemes", ".db"), {SchemaScript(), kRows})) {}
 
     // The rows of the one result, all columns or only those named, joined by "/".
     std::string Rows(const std::string& name, const platform::ParameterList& parameters,
@@ -81,7 +82,6 @@ protected:
                     {P(scheme), P(base), P(0.0), P(uom2), P(0.0), P(customer), P(type)});
     }
 
-    testkit::ScratchFolder folder_;
     std::shared_ptr<EmbeddedConnection> db_;
 };
 

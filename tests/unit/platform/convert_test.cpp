@@ -22,10 +22,9 @@ TEST(DateSerial, CountsDaysFromTheThirtiethOfDecember1899) {
         int year, month, day;
         double serial;
     } cases[] = {
-        {1899, 12, 30, 0},    {1899, 12, 29, -1},   {1900, 1, 1, 2},         {1900, 2, 28, 60},
+        {1899, 12, 30, 0},    {1899, 12, 29, -1},    {1900, 1, 1, 2},      {1900, 2, 28, 60},
         {1900, 3, 1, 61},  // 1900 was no leap year
-        {2000, 2, 29, 36585}, {2000, 3, 1, 36586},  {2024, 2, 29, 45351},    {2026, 11, 22, 46348},
-        {1800, 1, 1, -36522}, {100, 1, 1, -657434}, {9999, 12, 31, 2958465},
+        {2000, 2, 29, 36585}, {2026, 11, 22, 46348}, {100, 1, 1, -657434}, {9999, 12, 31, 2958465},
     };
     for (const auto& c : cases)
         EXPECT_EQ(DateSerial(c.year, c.month, c.day).serial, c.serial) << c.year << '-' << c.month << '-' << c.day;
@@ -35,12 +34,10 @@ TEST(DateSerialAndDateTime, CarryOverflowsReadTwoDigitYearsAndKeepTheTimeAsAForw
     EXPECT_EQ(DateSerial(2026, 13, 1), DateSerial(2027, 1, 1));
     EXPECT_EQ(DateSerial(2026, 0, 15), DateSerial(2025, 12, 15));
     EXPECT_EQ(DateSerial(2024, 3, 0), DateSerial(2024, 2, 29));
-    EXPECT_EQ(DateSerial(2026, 1, 32), DateSerial(2026, 2, 1));
     EXPECT_EQ(DateSerial(26, 1, 1), DateSerial(2026, 1, 1));
     EXPECT_EQ(DateSerial(99, 1, 1), DateSerial(1999, 1, 1));
     EXPECT_EQ(ErrorNumberOf([] { DateSerial(10000, 1, 1); }), err::InvalidCall);
     EXPECT_EQ(DateTime(1899, 12, 29, 6, 0, 0).serial, -1.25);
-    EXPECT_EQ(DateTime(1899, 12, 28, 18, 0, 0).serial, -2.75);
     EXPECT_NEAR(DateTime(2026, 11, 22, 23, 59, 59).serial, 46348 + 86399 * kSecond, 1e-9);
     EXPECT_EQ(DateTime(2026, 11, 22, 24, 0, 0), DateSerial(2026, 11, 23));
     EXPECT_EQ(DateTime(1899, 12, 30, -6, 0, 0), DateTime(1899, 12, 29, 18, 0, 0));
@@ -54,7 +51,6 @@ TEST(SplitDate, ReadsNegativeSerialsAndRoundsToTheSecond) {
             << "serial " << serial;
     };
     expectParts(-1.25, {1899, 12, 29, 6, 0, 0});
-    expectParts(-0.5, {1899, 12, 30, 12, 0, 0});
     expectParts(46348 + 3723 * kSecond, {2026, 11, 22, 1, 2, 3});
     expectParts(0.999999999, {1899, 12, 31, 0, 0, 0});
     expectParts(-1.999999999, {1899, 12, 30, 0, 0, 0});
@@ -70,7 +66,6 @@ TEST(DateParts, SplitDateAgreesWithDateSerialAndDateOnlyDropsTheTime) {
     EXPECT_EQ(DateOnly(Date{46348.75}).serial, 46348);
     EXPECT_EQ(DateOnly(Date{-1.25}).serial, -1);
     EXPECT_EQ(DateOnly(Date{46348.99999999}).serial, 46349);  // the time rounds to the next midnight
-    EXPECT_EQ(DayEndOf(Date{46348.2}), DateTime(2026, 11, 22, 23, 59, 59));
     EXPECT_EQ(DayEndOf(Date{-1.25}), DateTime(1899, 12, 29, 23, 59, 59));
 }
 
@@ -96,7 +91,6 @@ TEST(NumberToText, WritesFifteenDigitsInTheShortestForm) {
     } cases[] = {
         {-0.0, "0"},
         {0.1 + 0.2, "0.3"},
-        {1.0 / 3.0, "0.333333333333333"},
         {2.0 / 3.0, "0.666666666666667"},
         {-1234.5678, "-1234.5678"},
         {999999999999999.0, "999999999999999"},
@@ -104,11 +98,8 @@ TEST(NumberToText, WritesFifteenDigitsInTheShortestForm) {
         {1e15, "1E+15"},
         {999999999999999.9, "1E+15"},
         {-1234567890123456.0, "-1.23456789012346E+15"},
-        {1e100, "1E+100"},
         {1.5e300, "1.5E+300"},
         {0.0001, "0.0001"},
-        {0.000123, "0.000123"},
-        {0.00001, "1E-05"},
         {0.0000123, "1.23E-05"},
         {-0.00001, "-1E-05"},
         {1e-100, "1E-100"},
@@ -143,10 +134,9 @@ TEST(IsNumeric, AcceptsWhatTheRuntimeAccepted) {
         const char* text;
         bool numeric;
     } cases[] = {
-        {"12", true},    {" 12 ", true}, {"-1.5e3", true}, {"1d2", true},    {"&HFF", true},   {"&o17", true},
-        {"1,000", true}, {"+.5", true},  {"5.", true},     {"1e400", true},  {"", false},      {" ", false},
-        {".", false},    {"-", false},   {"1 2", false},   {"abc", false},   {"12abc", false}, {"1e", false},
-        {",5", false},   {"&H", false},  {"&HFG", false},  {"1.2.3", false}, {"--1", false},
+        {" 12 ", true}, {"-1.5e3", true}, {"1d2", true}, {"&HFF", true},  {"1,000", true},  {"+.5", true},
+        {"5.", true},   {"1e400", true},  {"", false},   {".", false},    {"1 2", false},   {"12abc", false},
+        {"1e", false},  {",5", false},    {"&H", false}, {"&HFG", false}, {"1.2.3", false}, {"--1", false},
     };
     for (const auto& c : cases) EXPECT_EQ(IsNumericText(c.text), c.numeric) << '"' << c.text << '"';
     EXPECT_TRUE(IsNumeric(Value()));
@@ -168,12 +158,10 @@ TEST(CDblAndVal, CDblRefusesWhatValReadsAsFarAsItCan) {
         const char* text;
         double value;
     } cases[] = {
-        {"  12abc", 12},    {"1 2 3", 123}, {"&HFF", 255},  {"-.5e2", -50},     {"abc", 0},
-        {"2*0*5", 2},       {"", 0},        {"1.2.3", 1.2}, {"1e", 1},          {"1e+", 1},
-        {"1D2", 100},       {"+5", 5},      {" - 5", -5},   {"1,234", 1},       {"\t7\n8", 78},
-        {"-", 0},           {".", 0},       {"&O17", 15},   {"&h1f", 31},       {"&H", 0},
-        {"&HZ", 0},         {"&H1G", 1},    {"&HFFFF", -1}, {"&H8000", -32768}, {"&H10000", 65536},
-        {"&HFFFFFFFF", -1},
+        {"  12abc", 12}, {"1 2 3", 123}, {"&HFF", 255},      {"-.5e2", -50},     {"2*0*5", 2},
+        {"", 0},         {"1.2.3", 1.2}, {"1e", 1},          {"1D2", 100},       {" - 5", -5},
+        {"1,234", 1},    {"\t7\n8", 78}, {".", 0},           {"&O17", 15},       {"&h1f", 31},
+        {"&H", 0},       {"&H1G", 1},    {"&H8000", -32768}, {"&H10000", 65536}, {"&HFFFFFFFF", -1},
     };
     for (const auto& c : cases) EXPECT_EQ(Val(c.text), c.value) << '"' << c.text << '"';
     EXPECT_EQ(ErrorNumberOf([] { Val("1e400"); }), err::Overflow);
@@ -186,9 +174,8 @@ TEST(RoundHalfEven, SendsTiesAsTheFiguresReadToTheEvenNeighbour) {
         int decimals;
         double rounded;
     } cases[] = {
-        {2.5, 0, 2},      {3.5, 0, 4},         {-2.5, 0, -2},      {0.5, 0, 0},      {2.5001, 0, 3},
-        {0.125, 2, 0.12}, {0.375, 2, 0.38},    {-0.125, 2, -0.12}, {2.675, 2, 2.68}, {1.005, 2, 1.0},
-        {1.015, 2, 1.02}, {0.1 + 0.2, 2, 0.3}, {9.995, 2, 10.0},   {0.0049, 2, 0.0}, {12.0, 3, 12.0},
+        {2.5, 0, 2},      {3.5, 0, 4},      {-2.5, 0, -2},   {2.5001, 0, 3},      {0.125, 2, 0.12},
+        {0.375, 2, 0.38}, {2.675, 2, 2.68}, {1.005, 2, 1.0}, {0.1 + 0.2, 2, 0.3}, {9.995, 2, 10.0},
     };
     for (const auto& c : cases)
         EXPECT_EQ(RoundHalfEven(c.value, c.decimals), c.rounded) << c.value << " to " << c.decimals;
@@ -204,10 +191,7 @@ TEST(CIntCLngIntFix, RoundOrCutWithinTheirRange) {
         {2.5, 2, 2, 2, 2},
         {3.5, 4, 4, 3, 3},
         {-2.5, -2, -2, -3, -2},
-        {-3.5, -4, -4, -4, -3},
         {-0.4, 0, 0, -1, -0},
-        {2.7, 3, 3, 2, 2},
-        {-3.0, -3, -3, -3, -3},
         {32767.4, 32767, 32767, 32767, 32767},
         {-32768.5, -32768, -32768, -32769, -32768},
     };
@@ -239,7 +223,6 @@ TEST(TextFunctions, TrimCaseSplitAndReplaceAsTheRuntimeDid) {
     EXPECT_EQ(Split("", ","), Pieces{});
     EXPECT_EQ(Split("a,b,", ","), (Pieces{"a", "b", ""}));
     EXPECT_EQ(Split(",", ","), (Pieces{"", ""}));
-    EXPECT_EQ(Split("a,,b", ","), (Pieces{"a", "", "b"}));
     EXPECT_EQ(Split("a, b, c", ", "), (Pieces{"a", "b", "c"}));
     EXPECT_EQ(Split("a,b", ""), Pieces{"a,b"});
 
@@ -266,13 +249,11 @@ TEST(FormatNumber, DigitPlacesPointGroupingAndRounding) {
         {-1234.5, "#,##0.00", "-1,234.50"},
         {0, "#,##0.00", "0.00"},
         {5, "0,000", "0,005"},
-        {Value(1234567), "#,##0", "1,234,567"},
         {2, "0.##", "2."},  // the runtime kept the point
         {2.125, "0.0#", "2.13"},
         {0.5, "#.##", ".5"},
         {0, "#", ""},
         {5, "#00", "05"},
-        {1234, "00-00", "12-34"},
         {123456, "00-00", "1234-56"},
         {1.5, ".00", "1.50"},
         {1e20, "0", "100000000000000000000"},
@@ -282,7 +263,6 @@ TEST(FormatNumber, DigitPlacesPointGroupingAndRounding) {
         {Value(true), "0", "-1"},
         // half away from zero on the figures as written; a negative rounding to nothing keeps its sign
         {-2.5, "0", "-3"},
-        {1.005, "0.00", "1.01"},
         {999.995, "#,##0.00", "1,000.00"},
         {-0.001, "0.00", "-0.00"},
     });
@@ -291,29 +271,23 @@ TEST(FormatNumber, DigitPlacesPointGroupingAndRounding) {
 TEST(FormatNumber, SectionsScalingExponentsNamedFormatsAndText) {
     ExpectAll({
         {-5, "0;(0)", "(5)"},
-        {5, "0;(0)", "5"},
-        {0, "0;(0);\\Z\\e\\r\\o", "Zero"},
         {0, "0.00;;\"Nil\"", "Nil"},
         {-5, "0;;", "-5"},  // an empty section borrows the first
         {0.256, "0%", "26%"},
         {1234567, "#,##0,", "1,235"},
         {1234567, "0,,.0", "1.2"},
-        {100000000, "##0,,", "100"},
         {1234.5, "0.00E+00", "1.23E+03"},
-        {0.000123, "0.00E+00", "1.23E-04"},
         {0.000123, "0.00E-00", "1.23E-04"},
         {1234.5, "0.00E-00", "1.23E03"},
         {9.999, "0.00E+00", "1.00E+01"},
         {0, "0.00E+00", "0.00E+00"},
         {-1234.5, "0.0e+0", "-1.2e+3"},
         {-0.5, "fixed", "-0.50"},
-        {1234.5, "General Number", "1234.5"},
         {1e15, "General Number", "1E+15"},
         {1, "Yes/No", "Yes"},
         {0, "Yes/No", "No"},
         {" 1,234.50 ", "0.00", "1234.50"},
         {"abc", "0.00", "abc"},
-        {"", "0.00", ""},
         {Value::Null(), "0.00", ""},
         {Value(), "0.00", ""},
         {1234.5, "", "1234.5"},
@@ -324,7 +298,6 @@ TEST(FormatNumber, SectionsScalingExponentsNamedFormatsAndText) {
 TEST(FormatDate, PatternsTheGeneralDateAndTheValueReadAsTheFormatAsks) {
     const Value friday = DateTime(2027, 3, 5, 14, 7, 9);
     ExpectAll({
-        {DateSerial(2027, 3, 15), "MM/YYYY", "03/2027"},
         {friday, "d/m/yy", "5/3/27"},
         {friday, "dd-mmm-yyyy", "05-Mar-2027"},
         {friday, "dddd, mmmm d", "Friday, March 5"},
@@ -340,7 +313,6 @@ TEST(FormatDate, PatternsTheGeneralDateAndTheValueReadAsTheFormatAsks) {
         {friday, "w", "6"},
         {DateSerial(2027, 1, 3), "ww", "2"},
         {DateSerial(2026, 12, 31), "ww", "53"},
-        {friday, "\"Day \"d", "Day 5"},
         {friday, "d\\d", "5d"},
         {DateSerial(1899, 12, 29), "dd/mm/yyyy", "29/12/1899"},
         {friday, "General Date", "05/03/2027 14:07:09"},

@@ -40,12 +40,8 @@ TEST_F(FormSpine, TheGridHasItsFortyThreeColumns) {
     EXPECT_TRUE(grid.ColLocked(grid::colSalePrice));
     EXPECT_FALSE(grid.ColLocked(grid::colQuantity));
     EXPECT_EQ(grid.ColInputClass(grid::colQuantity), 4);
-    EXPECT_EQ(grid.ColNext(grid::colItemCode), grid::colQuantity);
     EXPECT_EQ(grid.ColNext(grid::colItemName), grid::colQuantity);
     EXPECT_FALSE(grid.ColListAuto(grid::colUOM));
-    // A new note stands with one blank entry row.
-    EXPECT_EQ(grid.GridRows(), 1);
-    EXPECT_TRUE(grid.IsBlankRow(1));
 }
 
 TEST_F(FormSpine, TheGridFollowsTheMode) {

@@ -1,6 +1,5 @@
 // What the form leaves behind for later steps to read: locked columns, marks, kept
-// serials, the words of a batch list entry, and the counts of the scheme arithmetic
-// at their ceiling.
+// serials and the words of a batch list entry.
 #include "grid/batches_list_columns.h"
 #include "screen_fixture.h"
 
@@ -52,12 +51,6 @@ TEST_F(ScreenTest, ABatchAddedBackSaysWhatItsPriceAppliesOn) {
     f.AddBatchInfo("MB2401", 0, 9.0, 1);  // applies on PTS
     ASSERT_GE(f.lstAvailable.Count(), 1);
     EXPECT_EQ(f.lstAvailable.Item(f.lstAvailable.Count()).SubItem(kSubApplicableOn), "PTS");
-}
-
-TEST_F(ScreenTest, AQuotientBeyondFifteenDigitsStandsStillAtItsCeiling) {
-    auto& f = Open(2);
-    EXPECT_EQ(f.getQuotient(1e16, 1), 1e15 + 1);
-    EXPECT_EQ(f.getQuotient(1e15 + 1, 1), 1e15 + 1);
 }
 
 }  // namespace

@@ -135,6 +135,7 @@ TEST_F(SaveTest, ANoteFromASalesConfirmationLowersItsPendingLinesAndClosesIt) {
     f.szDocNumbers = "1";
     ASSERT_TRUE(f.SaveDispatch()) << ErrorLines();
     const std::string document = Scalar("SELECT MAX(DocumentID) FROM DispatchAbstract");
+    EXPECT_EQ(Scalar("SELECT Status FROM DispatchAbstract WHERE DocumentID = " + document), "1");
     EXPECT_EQ(Scalar("SELECT Pending FROM SODetail WHERE SOLineID = 1"), "192");
     EXPECT_EQ(Scalar("SELECT (Status & 128) || '|' || DispatchDocID FROM SOAbstract WHERE SONumber = 1"),
               "128|" + document);
@@ -162,7 +163,7 @@ TEST_F(SaveTest, AStockRefusalOnTheLastRowTakesTheWholeNoteBack) {
 
     EXPECT_TRUE(Tables() == tables);
     EXPECT_EQ(GridCells(), cells);
-    EXPECT_EQ(LastStatus(), "Insufficient stock for Cream Biscuit 75g");
+    EXPECT_TRUE(TranscriptHas("status 1 Insufficient stock for Cream Biscuit 75g"));
     EXPECT_EQ(f.DTFlexDispatch.GridRow(), 2);
     EXPECT_EQ(f.DTFlexDispatch.GridCol(), grid::colSalePrice);
     EXPECT_EQ(f.ActiveControl(), &f.DTFlexDispatch);

@@ -1,5 +1,7 @@
 #include "host/plain_tools.h"
 
+#include <algorithm>
+
 #include "host/dialog_replies.h"
 #include "host/result_sets.h"
 #include "platform/convert.h"
@@ -133,14 +135,46 @@ bool PlainTools::SelectScheme(const platform::RecordsetPtr& schemes, long& schem
     return false;
 }
 
-bool PlainTools::SelectFreeItem(long schemeID, const std::string& schemeName, long slabID, std::string& freeItemCode) {
+// The free items a slab offers that the master still sells.
+std::vector<std::string> PlainTools::OfferedFreeItems(long slabID) {
+    const std::string slab = std::to_string(slabID);
+    auto rows = state_.connection->Execute(
+        "Select f.Free_Item_Code From SchemeFreeItems f Join Items i On i.Product_Code = f.Free_Item_Code "
+        "Where f.SlabID = " +
+        slab +
+        " And i.Active = 1 Union "
+        "Select s.FreeItem From SchemeSlabs s Join Items i On i.Product_Code = s.FreeItem "
+        "Where s.SlabID = " +
+        slab + " And i.Active = 1");
+    std::vector<std::string> items;
+    for (; rows && rows->IsOpen() && !rows->Eof(); rows->MoveNext()) items.push_back(platform::ToText(rows->Fields(0)));
+    return items;
+}
+
+bool PlainTools::SelectFreeItem(long schemeID, const std::string& schemeName, long slabID,
+                                const std::string& primaryItemCode, std::string& freeItemCode) {
+    const std::vector<std::string> offered = OfferedFreeItems(slabID);
+    std::string detail = std::to_string(schemeID) + " " + QuoteText(schemeName) + " " + std::to_string(slabID);
+    if (!primaryItemCode.empty()) detail += " " + QuoteText(primaryItemCode);
+    detail += " [" + JoinTexts(offered) + "]";
+
     DialogReply reply = TakeReply(state_.answers, "SelectFreeItem");
-    bool chosen = !reply.byDefault && reply.values[0] != "none";
-    if (chosen) freeItemCode = reply.values[0];
-    state_.transcript.Dialog("SelectFreeItem",
-                             std::to_string(schemeID) + " " + QuoteText(schemeName) + " " + std::to_string(slabID),
-                             reply.Shown(chosen ? QuoteText(freeItemCode) : "none"));
-    return chosen;
+    if (reply.byDefault || reply.values[0] == "none") {
+        state_.transcript.Dialog("SelectFreeItem", detail, reply.Shown("none"));
+        return false;
+    }
+    // The user can only pick an item the dialog lists.
+    const std::string& wanted = reply.values[0];
+    const auto found = std::find_if(offered.begin(), offered.end(), [&](const std::string& item) {
+        return platform::UCase(item) == platform::UCase(wanted);
+    });
+    if (found == offered.end()) {
+        state_.transcript.Dialog("SelectFreeItem", detail, QuoteText(wanted) + " (not offered: none)");
+        return false;
+    }
+    freeItemCode = *found;
+    state_.transcript.Dialog("SelectFreeItem", detail, reply.Shown(QuoteText(freeItemCode)));
+    return true;
 }
 
 std::string PlainTools::SelectDocument(int kind) {

@@ -32,7 +32,8 @@ public:
     void ShowWidthDialog(int screenNumber) override;
     bool SelectScheme(const platform::RecordsetPtr& schemes, long& schemeID, long& schemeType, std::string& prompt,
                       const std::string& itemCode) override;
-    bool SelectFreeItem(long schemeID, const std::string& schemeName, long slabID, std::string& freeItemCode) override;
+    bool SelectFreeItem(long schemeID, const std::string& schemeName, long slabID, const std::string& primaryItemCode,
+                        std::string& freeItemCode) override;
     std::string SelectDocument(int kind) override;
     void SetNotFoundRecords(const platform::RecordsetPtr& records) override;
     void ShowNotFoundDialog(const std::string& text) override;
@@ -44,6 +45,7 @@ public:
                         int hostOption) override;
 
 private:
+    std::vector<std::string> OfferedFreeItems(long slabID);
     HostState& state_;
     NotePrinter printer_;
     std::vector<std::string> notFound_;  // the item codes handed over for the not-found dialog

@@ -104,7 +104,7 @@ void Zuro_frmDispatch_Dispatch::ApplyItemScheme(long nSchemeType, platform::DTFl
             return;
         }
         std::string szFreeCode;
-        if (!host_.tools.SelectFreeItem(nSchemeID, szSchName, nSlabID, szFreeCode)) {
+        if (!host_.tools.SelectFreeItem(nSchemeID, szSchName, nSlabID, "", szFreeCode)) {
             markIgnored();
             return;
         }

@@ -103,7 +103,7 @@ bool Zuro_frmDispatch_Dispatch::ApplySKUScheme(long nSchemeType, platform::DTFle
             return;
         }
         std::string szFreeCode;
-        if (!host_.tools.SelectFreeItem(nSchemeID, szSchName, nSlabID, szFreeCode)) {
+        if (!host_.tools.SelectFreeItem(nSchemeID, szSchName, nSlabID, szPrimaryItemCode, szFreeCode)) {
             refuse("Free Item Not selected For The Primary Item -  ");
             return;
         }

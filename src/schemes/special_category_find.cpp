@@ -170,7 +170,8 @@ bool Zuro_frmDispatch_Dispatch::FindSpecialCategoryScheme(platform::DTFlex& DTFl
                     return;
                 }
                 std::string szFreeCode;
-                if (!host_.tools.SelectFreeItem(nSchemeID, global.ToText(rsSchemes->Fields(1)), nSlabID, szFreeCode)) {
+                if (!host_.tools.SelectFreeItem(nSchemeID, global.ToText(rsSchemes->Fields(1)), nSlabID, "",
+                                                szFreeCode)) {
                     global.ShowStatus("Free Item Not selected", 1);
                     refuse();
                     return;

@@ -45,9 +45,11 @@ public:
     // Picks among several schemes of an item; false when the user chose none.
     virtual bool SelectScheme(const platform::RecordsetPtr& schemes, long& schemeID, long& schemeType,
                               std::string& prompt, const std::string& itemCode) = 0;
-    // Picks the free item of a scheme slab; false when the user chose none.
+    // Picks the free item of a scheme slab among the slab's free items, for the primary
+    // item a scheme is applied for (empty when the scheme is not an item's); false when
+    // the user chose none.
     virtual bool SelectFreeItem(long schemeID, const std::string& schemeName, long slabID,
-                                std::string& freeItemCode) = 0;
+                                const std::string& primaryItemCode, std::string& freeItemCode) = 0;
     // A document of the kind to copy from; its reference, empty when none was chosen.
     virtual std::string SelectDocument(int kind) = 0;
     // Hands over the rows ShowNotFoundDialog lists.

@@ -50,6 +50,7 @@ TEST_F(QuantityEntry, ItemsWithoutInventoryAndFreeRowsAreNotCheckedForStock) {
     ItemLine("PM001", "1", 1);  // a display stand keeps no stock
     EXPECT_EQ(Cell(grid::colTrackInventory), "0");
     EXPECT_FALSE(Quantity("500"));
+    EXPECT_EQ(Cell(grid::colSerialNo), "") << "the quantity step ends before the serial";
 
     ItemLine("FD001", "2", 24);
     SetCell(grid::colAvailableQty, "2400");

@@ -23,7 +23,7 @@ TEST_F(ScreenTest, AnItemWithoutStockMarksItsRow) {
     grid.UserGoto(1, colItemCode);
     grid.UserType("FD005");
     grid.UserKey(13);
-    EXPECT_EQ(LastStatus(), "No stock available");
+    EXPECT_TRUE(TranscriptHas("status 1 No stock available"));
     EXPECT_TRUE(f.bNoStockRow);
 }
 

@@ -5,6 +5,7 @@
 #include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
 #include "platform/key_codes.h"
+#include "schemes/scheme_records.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
@@ -15,11 +16,7 @@ using platform::adtype::Double;
 using platform::adtype::Integer;
 using platform::adtype::VarChar;
 
-namespace {
-constexpr long kFreeItemScheme = 3;
-enum SchemeListField { kSchemeID = 0, kItemKey = 1, kSchemeName = 2, kSchemeType = 3, kSlabID = 4 };
-enum SlabField { kSlabStart = 1, kSlabEnd = 2, kFreeQty = 3, kSlabUnit = 5, kFreeUnit = 6, kOnward = 7 };
-}  // namespace
+using namespace schemes;
 
 void Zuro_frmDispatch_Dispatch::FindDispatchSchemes(const std::string& szItemCode, double nQuantity,
                                                     platform::Date DServerDate, long nRow,

@@ -5,6 +5,7 @@
 #include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
 #include "platform/key_codes.h"
+#include "schemes/scheme_records.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
@@ -12,7 +13,7 @@ namespace screen {
 using namespace grid;
 
 namespace {
-constexpr long kFreeItemScheme = 3;
+using schemes::kFreeItemScheme;
 constexpr char kFreeItemSeparator = '\x0f';
 
 std::string CutTrailingComma(std::string szList) {

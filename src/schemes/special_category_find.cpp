@@ -8,6 +8,7 @@
 #include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
 #include "schemes/scheme_grid.h"
+#include "schemes/scheme_records.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
@@ -19,7 +20,7 @@ using platform::adtype::Integer;
 using platform::adtype::VarChar;
 
 namespace {
-constexpr long kFreeItemScheme = 3;
+using schemes::kFreeItemScheme;
 // Positions of the slab record.
 enum SlabField {
     kSchemeType = 0,

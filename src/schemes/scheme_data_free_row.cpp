@@ -17,6 +17,17 @@ namespace screen {
 
 using namespace grid;
 
+// A free row's batch tracking, price option and inventory tracking, as the item
+// master holds them (properties 9, 10 and 12).
+void Zuro_frmDispatch_Dispatch::WriteItemPropertyCells(int nRow, const std::string& szItemCode) {
+    for (const auto& [nProperty, nColumn] :
+         {std::pair{9L, colBatchTrack}, std::pair{10L, colPriceOption}, std::pair{12L, colTrackInventory}}) {
+        long nValue = 0;
+        GetItemProperty(szItemCode, nProperty, nValue);
+        DTFlexDispatch.SetCell(nRow, nColumn, std::to_string(nValue));
+    }
+}
+
 long Zuro_frmDispatch_Dispatch::MakeSchemeFreeRow(long nPrimaryRow, long nSchemeID, long nSlabID,
                                                   const std::string& szFreeCode, double fFree,
                                                   std::string& szNewSerials, const SkuFreeRow* pSkuRow) {
@@ -61,12 +72,7 @@ long Zuro_frmDispatch_Dispatch::MakeSchemeFreeRow(long nPrimaryRow, long nScheme
     if (!pSkuRow) grid.SetCell(nFreeRow, colMultiSchemeDetail, MultiSchemeDetail(nSchemeID, nSlabID));
     grid.SetCell(nFreeRow, colSalePrice, "0");
 
-    for (const auto& [nProperty, nColumn] :
-         {std::pair{9L, colBatchTrack}, std::pair{10L, colPriceOption}, std::pair{12L, colTrackInventory}}) {
-        long nValue = 0;
-        GetItemProperty(szFreeCode, nProperty, nValue);
-        grid.SetCell(nFreeRow, nColumn, std::to_string(nValue));
-    }
+    WriteItemPropertyCells(nFreeRow, szFreeCode);
     grid.SetCell(nFreeRow, colPrimaryItemCode, grid.GetCell(nPrimary, colItemCode));
 
     // The free quantity goes through the quantity step like a typed one: that is

@@ -317,6 +317,7 @@ public:
     struct SkuFreeRow {
         std::string szPrimarySerials;
     };
+    void WriteItemPropertyCells(int nRow, const std::string& szItemCode);
     long MakeSchemeFreeRow(long nPrimaryRow, long nSchemeID, long nSlabID, const std::string& szFreeCode, double fFree,
                            std::string& szNewSerials, const SkuFreeRow* pSkuRow = nullptr);
 

@@ -81,12 +81,7 @@ void Zuro_frmDispatch_Dispatch::ApplySpecialCategoryScheme(
             grid.SetCell(nFreeRow, colQuantity, platform::NumberToText(dFreeQty));
             grid.SetCell(nFreeRow, colFreeRow, "1");
             grid.SetCell(nFreeRow, colSalePrice, "0");
-            for (const auto& [nProperty, nColumn] :
-                 {std::pair{9L, colBatchTrack}, std::pair{10L, colPriceOption}, std::pair{12L, colTrackInventory}}) {
-                long nValue = 0;
-                GetItemProperty(szFreeCode, nProperty, nValue);
-                grid.SetCell(nFreeRow, nColumn, std::to_string(nValue));
-            }
+            WriteItemPropertyCells(nFreeRow, szFreeCode);
             grid.SetCell(nFreeRow, colSplCatSchemeID, std::to_string(nSchemeID));
             grid.SetCell(nFreeRow, colSplCatSchemeIndicator, std::to_string(nSchemeType));
             grid.SetCell(nFreeRow, colSplCategoryScheme, "1");

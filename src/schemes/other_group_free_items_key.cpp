@@ -8,7 +8,7 @@ namespace screen {
 
 using namespace grid;
 
-// Part of Form_KeyDown, under its handler; nRow and nCol are the grid's current cell
+// A step of Form_KeyDown, run under its handler; nRow and nCol are the grid's current cell
 // as the key found it.
 void Zuro_frmDispatch_Dispatch::ShowOCGFreeItemsDialog(int nRow, int nCol) {
     auto& global = host_.global;

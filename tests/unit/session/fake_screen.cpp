@@ -18,10 +18,6 @@ FakeScreen::FakeScreen(host_services::HostServices services) : services_(std::mo
     lstSO.CheckBoxes = true;
     lstSO.Add("Acme Traders").SetSubItem(1, "SC1");
     lstSO.Add("").SetSubItem(1, "SC2");
-    lstUOM.AddItem("Each");
-    lstUOM.AddItem("Box");
-    cboType.AddItem("Invoice");
-    cboType.AddItem("Note");
 
     grid.SetColHeading(1, "Code");
     grid.SetColHeading(2, "Name");
@@ -58,27 +54,12 @@ void FakeScreen::WireEvents() {
     txtCustomer.KeyUp.Connect(logs("txtCustomer.KeyUp"));
     cmdSave.Click.Connect(logs("cmdSave.Click"));
     lblTitle.Click.Connect(logs("lblTitle.Click"));
-    lstSO.ItemCheck.Connect(
-        [this](int row) { Log(fmt::format("lstSO.ItemCheck {} {}", row, lstSO.Item(row).Checked)); });
-    lstSO.ItemClick.Connect(logs("lstSO.ItemClick"));
-    lstUOM.Click.Connect([this] { Log(fmt::format("lstUOM.Click {}", lstUOM.ListIndex())); });
     lstUOM.DblClick.Connect(logs("lstUOM.DblClick"));
-    cboType.Click.Connect([this] { Log("cboType.Click " + cboType.Text()); });
-    dtFromDate.Change.Connect([this] { Log("dtFromDate.Change " + platform::DateToIso(dtFromDate.Value)); });
-    grid.KeyCode.Connect(logs("grid.KeyCode"));
-    grid.RowColChange.Connect(logs("grid.RowColChange"));
-    grid.AfterColUpdate.Connect(logs("grid.AfterColUpdate"));
 }
 
 void FakeScreen::AddRoutines() {
     routines_.Add("Ask", [this](screen::RoutineCall& call) {
         call.result = platform::Value(services_.messages.AskMessage("Save now?", 4));
-    });
-    routines_.Add("SplitFirst", [](screen::RoutineCall& call) {
-        const std::string& text = call.arguments.at(0);
-        auto comma = text.find(',');
-        call.outs.emplace_back("szFirst", platform::Value(text.substr(0, comma)));
-        call.outs.emplace_back("szRest", platform::Value(comma == std::string::npos ? "" : text.substr(comma + 1)));
     });
     routines_.Add("Report", [this](screen::RoutineCall&) {
         services_.global.ReportError("Dispatch: Report - Invalid procedure call or argument", 5);
@@ -102,9 +83,8 @@ void FakeScreen::MoveFocus(platform::Control& to) {
 }
 
 platform::Control* FakeScreen::FindControl(const std::string& name, int index) {
-    for (platform::Control* control :
-         std::initializer_list<platform::Control*>{&frame3, &txtCustomer, &txtInFrame, &txtLocked, &cmdSave, &lblTitle,
-                                                   &lstSO, &lstUOM, &cboType, &dtFromDate, &grid})
+    for (platform::Control* control : std::initializer_list<platform::Control*>{
+             &frame3, &txtCustomer, &txtInFrame, &txtLocked, &cmdSave, &lblTitle, &lstSO, &lstUOM, &grid})
         if (control->Name() == name && control->Index() == index) return control;
     return nullptr;
 }

@@ -44,8 +44,6 @@ public:
     platform::Label lblTitle{*this, "lblTitle"};
     platform::ListView lstSO{*this, "lstSO"};
     platform::ListBox lstUOM{*this, "lstUOM"};
-    platform::ComboBox cboType{*this, "cboType"};
-    platform::DatePicker dtFromDate{*this, "dtFromDate"};
     platform::DTFlex grid{*this, "DTFlexDispatch", 8};
 
     // ---- what the test arranges and reads ----------------------------------------

@@ -9,7 +9,6 @@
 namespace session::testing {
 namespace {
 
-using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
@@ -37,39 +36,6 @@ TEST_F(SessionTest, KeyGoesThroughThePreviewThenDownPressUpUntilSwallowedAndType
                             "txtCustomer.Change Acme", "txtCustomer.Change Acme",
                             // a label takes its click without focus
                             "lblTitle.Click", "txtCustomer.LostFocus", "lstUOM.DblClick"));
-}
-
-TEST_F(SessionTest, ListDateGridAndRoutineVerbsRaiseTheirEvents) {
-    auto outcome =
-        Run(kOpen +
-            "tick lstSO 2\ntick lstSO 2\nexpect checked lstSO \"2\"\nuntick lstSO 2\nexpect checked lstSO \"\"\n"
-            "select lstUOM 2\nselect lstUOM 2\nselect cboType 1\nselect lstSO 1\n"
-            "expect text cboType \"Note\"\nexpect text lstUOM \"Box\"\n"
-            "date dtFromDate 2026-11-01\nexpect text dtFromDate \"2026-11-01\"\n"
-            "cell 2 2 \"Rice\"\nexpect cell 2 2 \"Rice\"\ngrid key 65\n"
-            "call SplitFirst \"a,b,c\"\n");
-    EXPECT_EQ(outcome.status, 0) << outcome.out;
-    const auto& events = Screen().events;
-    auto count = [&](const char* event) { return std::count(events.begin(), events.end(), event); };
-    // A tick raises ItemCheck only when it changes the box.
-    EXPECT_EQ(count("lstSO.ItemCheck 2 true"), 1);
-    EXPECT_EQ(count("lstSO.ItemCheck 2 false"), 1);
-    // List rows count from one, combo entries from zero.
-    EXPECT_EQ(count("lstUOM.Click 1"), 2);
-    EXPECT_THAT(events, Contains("cboType.Click Note"));
-    EXPECT_THAT(events, Contains("lstSO.ItemClick 1"));
-    EXPECT_EQ(Screen().lstSO.SelectedIndex(), 1);
-    EXPECT_THAT(events, Contains("dtFromDate.Change 2026-11-01"));
-    // A cell is goto, type and Enter; grid keys go through the preview first.
-    EXPECT_THAT(events, Contains("grid.RowColChange 2 2"));
-    EXPECT_THAT(events, Contains("grid.AfterColUpdate 2 2 false"));
-    EXPECT_THAT(events, Contains("Form_KeyDown 13 0"));
-    auto preview = std::find(events.begin(), events.end(), "Form_KeyDown 65 0");
-    auto gridKey = std::find(events.begin(), events.end(), "grid.KeyCode 65 0");
-    EXPECT_LT(preview, gridKey);
-    EXPECT_NE(gridKey, events.end());
-    EXPECT_EQ(Screen().ActiveControl(), &Screen().grid);
-    for (const char* line : {"out szFirst a", "out szRest b,c"}) EXPECT_THAT(outcome.out, HasLine(line));
 }
 
 TEST_F(SessionTest, TraceShowsTheStatementsTheScreenSends) {

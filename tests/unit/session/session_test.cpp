@@ -137,22 +137,5 @@ TEST_F(SessionTest, FailedChecksAndRefusedActionsAreReportedAndTheScriptGoesOn) 
     EXPECT_EQ(std::count(events.begin(), events.end(), "cmdSave.Click"), 1);
 }
 
-TEST_F(SessionTest, TranscriptEchoesCommandsFocusMovesAndWhatShowPrints) {
-    auto outcome = Run(kOpen +
-                       "focus cmdSave\nfocus cmdSave\nshow grid\nshow grid 1 7\nshow rows\ntick lstSO 1\nshow lstSO\n"
-                       "show cmdSave\nshow field szDocNumbers\nshow focus\nshow status\n");
-    EXPECT_EQ(outcome.status, 0) << outcome.out << outcome.err;
-    EXPECT_EQ(outcome.err, "");
-    EXPECT_THAT(outcome.out, ::testing::StartsWith("> database empty\n> open dispatch 2 2026-11-22\nfocus txtCustomer\n"
-                                                   "> focus cmdSave\nfocus cmdSave\n> focus cmdSave\n> show grid\n"));
-    EXPECT_THAT(outcome.out, HasSubstr("= row 0: Code|Name||||\n= row 1: A100|Soap||||\n= row 2: B200|||||\n"));
-    EXPECT_THAT(outcome.out, HasSubstr("= row 0: Code|\n= row 1: A100|\n= row 2: B200|hidden\n"));
-    for (const char* line :
-         {"= rows 2", "= lstSO ListView tag \"\" visible true enabled true", "=   1 [x] \"Acme Traders\" | \"SC1\"",
-          "=   2 [ ] \"\" | \"SC2\"", "= cmdSave CommandButton caption \"&Save\" tag \"\" visible true enabled true",
-          "= field szDocNumbers \"SC1,SC2\"", "= focus lstSO", "= status none"})
-        EXPECT_THAT(outcome.out, HasLine(line));
-}
-
 }  // namespace
 }  // namespace session::testing

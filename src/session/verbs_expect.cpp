@@ -42,11 +42,16 @@ void Traced(Session& session, const ScriptCommand& command) {
     CheckNumber(session, command, static_cast<long>(found));
 }
 
+// The text, and with a number after it the kind the screen gave it too: 1 a refusal
+// or warning, 0 a note of progress.
 void Status(Session& session, const ScriptCommand& command) {
-    RequireArguments(command, 2, 2, "status \"TEXT\"");
+    RequireArguments(command, 2, 3, "status \"TEXT\" [KIND]");
     const auto* status = session.transcript.LastStatus();
     if (!status) return Check(session, command, false, "no status line was shown");
-    CheckText(session, command, status->text);
+    if (command.ArgumentCount() == 2) return CheckText(session, command, status->text);
+    const long kind = IntegerWord(command, 3, "the kind");
+    Check(session, command, status->text == command.Argument(2) && status->flag == kind,
+          fmt::format("was {} of kind {}", Quote(status->text), status->flag));
 }
 
 void Message(Session& session, const ScriptCommand& command) {

@@ -109,20 +109,6 @@ TEST_F(NewNoteGrid, RowNumbersAreNoEntriesAndRowsComeAndGoFromTheEnd) {
     EXPECT_EQ(grid.GetCell(2, 1), "");  // a dropped row does not come back
 }
 
-TEST_F(NewNoteGrid, ClearGridEmptiesTheRowsAndKeepsHeadingsAndCount) {
-    grid.SetColHeading(1, "Doc");
-    grid.SetGridRows(2);
-    grid.SetCell(2, 0, "2");
-    grid.SetCell(2, 5, "Yes");
-    grid.SetGridRow(2);
-    grid.ClearGrid();
-    EXPECT_EQ(grid.GridRows(), 2);
-    EXPECT_EQ(grid.GetCell(2, 0), "");
-    EXPECT_TRUE(grid.IsBlankRow(2));
-    EXPECT_EQ(grid.GetCell(0, 1), "Doc");
-    EXPECT_EQ(grid.GridRow(), 1);
-}
-
 // Enter through a new note: ColNext, LastEntryCol, the blank entry row the grid
 // keeps at its end, AtLastRow, and a refused edit that keeps its editor.
 

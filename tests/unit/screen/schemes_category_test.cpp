@@ -70,10 +70,11 @@ TEST_F(SpecialCategory, TheSchemesLinesShareItsFreeRows) {
     EXPECT_EQ(Cell(FreeRowsOf("PM002")[0], colQuantity), "3");
     ExpectLinksHold();
 
-    // Below the slab: the free row goes.
+    // Below the slab: the free row goes. A line taken from free stock adds nothing.
     SetQuantity(2, 1);
     SetQuantity(1, 5);
     SetQuantity(3, 1);
+    form->DTFlexDispatch.SetCell(Line("FD003", 20), colFreeRow, "1");
     Click();
     EXPECT_TRUE(FreeRowsOf("PM002").empty());
     EXPECT_EQ(LastStatus(), "Schemes not available");

@@ -153,10 +153,4 @@ TEST_F(ServerObjects, TheChecksAnswerOneForAnItemThatMayBeSold) {
     EXPECT_EQ(Call("sp_CheckItemExists_DSType", {Int(3), Text("FD001")}), "0");
 }
 
-TEST_F(ServerObjects, TheUnitLadderStartsWithTheSalesUnit) {
-    // The units of Marie, HC001 and FD003, and an unknown item, are read by the units tests.
-    EXPECT_EQ(Call("sp_get_item_uom", {Text("FD001")}), "2|BOX|24;1|PCS|1;2|BOX|24;3|CASE|240");
-    EXPECT_EQ(Call("sp_get_item_uom", {Text("FD004")}), "5|BTL|1;5|BTL|1;6|CTN|12");
-}
-
 }  // namespace

@@ -1,6 +1,4 @@
 // The three transaction calls, and what they mean for a second clerk on the same file.
-#include <chrono>
-
 #include <gtest/gtest.h>
 
 #include "platform/runtime_error.h"
@@ -22,27 +20,6 @@ protected:
     std::unique_ptr<EmbeddedConnection> second_ =
         std::make_unique<EmbeddedConnection>(Path(), EmbeddedConnection::Options{.busyTimeoutMs = 200});
 };
-
-TEST_F(Transactions, BeginTakesTheWriteLockAtOnce) {
-    first_.BeginTrans();
-    EXPECT_TRUE(first_.InTransaction());
-
-    // The second clerk's writer waits out its busy timeout, then fails.
-    auto started = std::chrono::steady_clock::now();
-    EXPECT_EQ(
-        testkit::Refusal([&] { second_->Execute("UPDATE Batch_Products SET Quantity = 0 WHERE Batch_Code = 7"); }),
-        "database is locked");
-    EXPECT_GE(std::chrono::steady_clock::now() - started, std::chrono::milliseconds(150));
-    EXPECT_EQ(testkit::Refusal([&] { second_->BeginTrans(); }), "database is locked");
-    EXPECT_FALSE(second_->InTransaction());
-
-    // Readers are not held up, and see what was committed.
-    first_.Execute("UPDATE Batch_Products SET Quantity = Quantity - 40 WHERE Batch_Code = 7");
-    EXPECT_EQ(Stock(*second_), "144r");
-    first_.CommitTrans();
-    EXPECT_FALSE(first_.InTransaction());
-    EXPECT_EQ(Stock(*second_), "104r");
-}
 
 // A rollback after a failing call is shown by the screen's save, which fails each of
 // its calls in turn; here the statement that fails is SQLite's own, inside the

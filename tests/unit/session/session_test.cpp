@@ -22,22 +22,6 @@ TEST_F(SessionTest, OpenDatesDefaultToTodayAndAFormWithoutAScreenOpensNone) {
     EXPECT_THAT(outcome.out, HasSubstr("FAIL line 3: click cmdSave: the screen did not open"));
 }
 
-// The fake's preview swallows Escape and the box's KeyDown swallows Enter.
-TEST_F(SessionTest, KeyGoesThroughThePreviewThenDownPressUpUntilSwallowedAndTypeAlwaysRaisesChange) {
-    Run(kOpen +
-        "key txtCustomer 65 1\nkey txtCustomer 114\nkey txtCustomer 27\nkey txtCustomer 13\n"
-        "type txtCustomer \"Acme\"\ntype txtCustomer \"Acme\"\nclick lblTitle\ndblclick lstUOM\n");
-    EXPECT_THAT(Screen().events,
-                ElementsAre("txtCustomer.GotFocus", "Form_KeyDown 65 1", "txtCustomer.KeyDown 65 1",
-                            "txtCustomer.KeyPress 65", "txtCustomer.KeyUp 65 1",
-                            // F3 gives no character
-                            "Form_KeyDown 114 0", "txtCustomer.KeyDown 114 0", "txtCustomer.KeyUp 114 0",
-                            "Form_KeyDown 27 0", "Form_KeyDown 13 0", "txtCustomer.KeyDown 13 0",
-                            "txtCustomer.Change Acme", "txtCustomer.Change Acme",
-                            // a label takes its click without focus
-                            "lblTitle.Click", "txtCustomer.LostFocus", "lstUOM.DblClick"));
-}
-
 TEST_F(SessionTest, TraceShowsTheStatementsTheScreenSends) {
     auto outcome = Run(kOpen + "call Query \"SELECT 40 + 2\"\nexpect result \"42\"\n", true);
     EXPECT_EQ(outcome.status, 0) << outcome.out;

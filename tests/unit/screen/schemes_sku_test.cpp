@@ -89,17 +89,18 @@ TEST_F(SkuSchemes, DeletingALineTakesTheFreeRowsItAloneClaimed) {
 }
 
 TEST_F(SkuSchemes, AFreeItemThatCannotBeHadStopsTheItemAndIsRetriedNextTime) {
-    AddScheme(903, 1, {{"FS001", 0}}, 1, 0, 1, "FD005");  // FD005 has no stock
+    AddScheme(903, 1, {{"FS001", 0}}, 1, 0, 1, "FD005");
     const struct {
-        std::string answer, words;
-        bool stocked;
+        std::string freeItem, answer, words;
     } cases[] = {
-        {"", "Free SKU is not available/Selected For the Primary Item - FS001", false},
-        {"none", "Free Item Not selected For The Primary Item -  FS001", true},
+        {"FD005", "", "Free SKU is not available/Selected For the Primary Item - FS001"},  // no stock
+        // switched off in the master with stock still on the shelf
+        {"FD006", "", "Free SKU is not available/Selected For the Primary Item - FS001"},
+        {"PM002", "none", "Free Item Not selected For The Primary Item -  FS001"},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.words);
-        if (c.stocked) Scalar("UPDATE SchemeFreeItems SET Free_Item_Code = 'PM002' WHERE SlabID = 9031");
+        SCOPED_TRACE(c.freeItem);
+        Scalar("UPDATE SchemeFreeItems SET Free_Item_Code = '" + c.freeItem + "' WHERE SlabID = 9031");
         form->ResetSchemeMemory();
         form->DTFlexDispatch.ClearGrid();
         form->DTFlexDispatch.SetGridRows(1);

@@ -133,6 +133,11 @@ TEST_F(BatchList, InAnAmendmentAnExpiredBatchTheNoteHoldsComesBack) {
     EXPECT_EQ(added.SubItem(3), "48") << "the stored quantity times the rate, as the list always showed it";
     EXPECT_EQ(added.SubItem(5), "");
     EXPECT_EQ(added.SubItem(11), "PTR") << "what the batch's price applies on";
+
+    // A batch the list still shows takes the line back on its own entry; nothing is added.
+    form->DispatchBatchDetails("FD001", "MB2401", "216", 1, 0, 1, "MB2401");
+    EXPECT_EQ(form->lstAvailable.Count(), 3);
+    EXPECT_EQ(form->lstAvailable.SelectedIndex(), 1);
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 

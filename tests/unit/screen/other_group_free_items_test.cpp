@@ -112,6 +112,13 @@ TEST_F(OtherGroupFreeItems, SettledEntriesUpdateOrMakeRows) {
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
+// Only the modes that load their lines from documents give up the blank entry row.
+TEST_F(OtherGroupFreeItems, ANewNoteKeepsItsBlankEntryRow) {
+    StandingRows();
+    form->LoadOCGFreeItems(Settled({{"PC002", "Shampoo Sachet", "", "STRIP", 5, 21, 4, 0, 0, 1, 1, 4}}), 1);
+    EXPECT_EQ(Codes(), "FD001 FD002 PC002 ");
+}
+
 TEST_F(OtherGroupFreeItems, TheDialogsAnswersAreCheckedWhenQueued) {
     using Words = std::vector<std::string>;
     for (const Words& good : {Words{"cancel"}, Words{"ok"}, Words{"drop", "3", "add", "BV001", "OD24A", "12", "ok"},

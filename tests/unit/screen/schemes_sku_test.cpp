@@ -80,10 +80,12 @@ TEST_F(SkuSchemes, DeletingALineTakesTheFreeRowsItAloneClaimed) {
     EXPECT_EQ(Cell(FreeRowsOf("PM002")[0], colItemCheck), "1");
     ExpectLinksHold();
 
-    // One line fewer: every item afresh, and FD003 earns its row once more.
+    // One line fewer: every item afresh, and FD003 earns its row once more, under the
+    // next serial of the note; the serials standing are not given out again.
     Choose("PM002");
     Click();
-    EXPECT_EQ(FreeRowsOf("PM002").size(), 1u);
+    ASSERT_EQ(FreeRowsOf("PM002").size(), 1u);
+    EXPECT_EQ(Cell(FreeRowsOf("PM002")[0], colSerialNo), "5");
     ExpectLinksHold();
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }

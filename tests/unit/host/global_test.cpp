@@ -90,12 +90,6 @@ TEST_F(GlobalTest, NextRecordsetLeavesTheCallersSetAndFallsBackOnAnEmptyResult) 
     EXPECT_EQ(global().NextRecordset(nullptr), nullptr);
 }
 
-// Quantities are read back from their cells with Val: no grouping, which would cut
-// the figure at the first comma.
-TEST_F(GlobalTest, QuantitiesShowWithoutGrouping) {
-    EXPECT_EQ(platform::Format(platform::Value(1234567.5), global().GetNumberFormat(-1)), "1234567.5");
-}
-
 TEST_F(GlobalTest, TheWorkingDateIsTheSessionsAndTransactionsGoByItsDay) {
     host->SetServerDate(platform::DateTime(2026, 11, 22, 10, 30, 0));
     EXPECT_EQ(global().GetTransactionDate(), platform::DateSerial(2026, 11, 22));

@@ -103,18 +103,6 @@ TEST_F(Faults, FailsTheNthCallCountedFromNowWithoutReachingTheInnerConnection) {
     EXPECT_EQ(connection.CallCount(), 5);
 }
 
-TEST_F(Faults, CountsTransactionCallsButNeverFailsARollback) {
-    connection.FailNthCall(1);
-    connection.FailNthCall(2);
-    EXPECT_EQ(FailureOf([&] { connection.BeginTrans(); }), "Injected failure of call 1: BEGIN TRANSACTION");
-    connection.RollbackTrans();  // not counted, not failed
-    EXPECT_EQ(FailureOf([&] { connection.CommitTrans(); }), "Injected failure of call 2: COMMIT TRANSACTION");
-    EXPECT_EQ(inner->reached, (std::vector<std::string>{"rollback"}));
-    EXPECT_EQ(connection.CallCount(), 2);
-    connection.BeginTrans();
-    EXPECT_TRUE(connection.InTransaction());  // the state comes from the inner connection
-}
-
 TEST_F(Faults, FailsMatchingStatementsAndProceduresWithoutRegardToCase) {
     connection.FailMatching("update soabstract");
     connection.FailMatching("SP_CLOSE_SO");
@@ -127,36 +115,7 @@ TEST_F(Faults, FailsMatchingStatementsAndProceduresWithoutRegardToCase) {
     EXPECT_EQ(inner->reached, (std::vector<std::string>{"sp_close_so_all", "Select * From SOAbstract"}));
 }
 
-TEST_F(Faults, ClearFaultsForgetsEveryFaultRestartsTheCountAndMeaninglessFaultsAreRefused) {
-    connection.FailMatching("Select");
-    connection.FailNthCall(2);
-    connection.BeginTrans();
-    connection.ClearFaults();
-    EXPECT_EQ(connection.CallCount(), 0);
-    EXPECT_EQ(FailureOf([&] { connection.Execute("Select 1"); }), "");
-    EXPECT_EQ(FailureOf([&] { connection.Execute("Select 2"); }), "");
-    EXPECT_EQ(connection.CallCount(), 2);
-    EXPECT_THROW(connection.FailNthCall(0), RuntimeError);
-    EXPECT_THROW(connection.FailMatching(""), RuntimeError);
-    EXPECT_EQ(FailureOf([&] { connection.Execute("Select 3"); }), "");
-}
-
 using Kind = RecordedCall::Kind;
-
-// A call is recorded, and the listener told, before the inner connection sees it,
-// so a call that fails is in the record too.
-TEST(Recording, RecordsAndTellsOfCallsThatFail) {
-    class Failing : public testing::FakeConnection {
-        RecordsetPtr Execute(const std::string&) override { throw RuntimeError(err::DatabaseError, "bad"); }
-    };
-    RecordingConnection failing(std::make_shared<Failing>());
-    std::vector<std::string> heard;
-    failing.onCall = [&](const RecordedCall& call) { heard.push_back(RecordingConnection::Describe(call)); };
-    EXPECT_THROW(failing.Execute("Update X"), RuntimeError);
-    ASSERT_EQ(failing.Calls().size(), 1u);
-    EXPECT_EQ(failing.Calls()[0].text, "Update X");
-    EXPECT_EQ(heard, std::vector<std::string>{"Update X"});
-}
 
 TEST(RecordingDescribe, WritesEachCallAsTheServerWouldReadIt) {
     const auto describe = [](RecordedCall call) { return RecordingConnection::Describe(call); };

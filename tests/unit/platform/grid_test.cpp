@@ -166,16 +166,6 @@ TEST_F(NewNoteGrid, ARefusedEditStaysOpenWithTheTextTyped) {
     EXPECT_EQ(grid.GetCell(1, 1), "");
 }
 
-TEST_F(NewNoteGrid, AfterColUpdateIsOnlyForTheFirstSixColumns) {
-    grid.SetGridCol(7);
-    grid.SetCellEdit(1);
-    ASSERT_TRUE(grid.Editing());
-    grid.UserType("1");
-    EXPECT_TRUE(grid.CommitEdit());
-    EXPECT_EQ(TakeEvents(), (Events{"RowColChange 1 7", "Change 7"}));
-    EXPECT_EQ(grid.GetCell(1, 7), "1");
-}
-
 TEST_F(NewNoteGrid, AHandlerThatRemovesTheEditedRowLeavesTheEntryRowInPlace) {
     // An emptied item cell makes the handler take the row away, without refusing.
     grid.AfterColUpdate.Connect([this](int row, int col, bool&) {

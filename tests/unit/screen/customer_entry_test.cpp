@@ -55,9 +55,6 @@ TEST_F(CustomerEntry, SmallHelpers) {
     int key = 'q';
     Zuro_frmDispatch_Dispatch::ToUpperKey(key);
     EXPECT_EQ(key, 'Q');
-    key = '{';
-    Zuro_frmDispatch_Dispatch::ToUpperKey(key);
-    EXPECT_EQ(key, '{');
     EXPECT_TRUE(f.IsTradeCustomer("C001"));
     EXPECT_FALSE(f.IsTradeCustomer("C007"));
 }

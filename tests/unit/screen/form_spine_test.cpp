@@ -25,11 +25,6 @@ TEST_F(FormSpine, EachModeTitlesItsFrame) {
     }
 }
 
-// Only an alert's mode starts the list at the alert date.
-TEST_F(FormSpine, AnAlertDateOutsideTheAlertsModeIsIgnored) {
-    EXPECT_EQ(Open(1, Today(), platform::DateSerial(2026, 11, 1)).dtFromDate.Value, Today());
-}
-
 TEST_F(FormSpine, TheGridHasItsFortyThreeColumns) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     auto& grid = f.DTFlexDispatch;

@@ -46,7 +46,6 @@ TEST_F(HeaderPages, ANewNoteHasItsCustomerBoxesInThePartyFrame) {
     EXPECT_FALSE(f.txtref.Locked);
     EXPECT_TRUE(f.cmdSave.TabStop);
     EXPECT_FALSE(f.cmdContinue.TabStop);
-    EXPECT_EQ(f.FieldText("vFocusOrder2"), "txtref,DTDispatchDate,txtBillingAddress,txtShippingAddress,DTFlexDispatch");
 }
 
 TEST_F(HeaderPages, TheSecondFocusRingWalksBothWaysInConfirmationModes) {

@@ -31,12 +31,10 @@ TEST_F(ItemLookup, TheListFollowsTheGridsEditorAndIsLockedToItsItems) {
     ASSERT_NE(f.objItemList, nullptr);
     EXPECT_EQ(List().AttachedBox(), &f.DTFlexDispatch.EditorBox());
     EXPECT_TRUE(List().LockedToList());
-    EXPECT_NE(f.objItemListSpare1, nullptr);
-    EXPECT_NE(f.objItemListSpare2, nullptr);
 }
 
 TEST_F(ItemLookup, OneGroupListsItsItemsByCodeOrByNameAsTyped) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
+    Open(2);
     Party("Arun Kumar", "1", "Foods", "1");
     EXPECT_EQ(Statement(1, "FD"),
               "Select Product_Code,Product_Code From dbo.Fn_Get_Items_QAX('1') Where Product_Code Like 'FD%'");

@@ -1,6 +1,6 @@
 // The server objects behind the party fields and the item grid, over the demo data:
 // who is mapped to whom, which groups a salesman's DS type sells, the items a dispatch
-// may sell, whether a typed item is among them, and an item's unit ladder.
+// may sell, whether a typed item is among them.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -56,11 +56,6 @@ TEST_F(ServerObjects, MappingNeverOffersInactiveCustomersOrCategoriesFourAndFive
               "C003;C010");
 }
 
-TEST_F(ServerObjects, MappingRefusesAShortCall) {
-    EXPECT_THROW(database->Execute("Select * From dbo.Fn_Get_MappedSalemanBeatAndCustomer_QAX(1,0)"),
-                 platform::RuntimeError);
-}
-
 TEST_F(ServerObjects, CategoryGroupsOfTheSalesmansDSType) {
     EXPECT_EQ(Query("Select GroupID,GroupName From dbo.fn_ListCategoryGroup(1)"), "1|Foods;2|Beverages");
     // Every active group; the inactive Festive Range (5) is not offered.
@@ -88,21 +83,7 @@ TEST_F(ServerObjects, ItemsOfAListOfGroups) {
     EXPECT_NE(items.find("FD001"), std::string::npos);
     EXPECT_NE(items.find("BV001"), std::string::npos);
     EXPECT_EQ(Query("Select Count(*) From dbo.Sp_Get_Items_QAX('1,2') Where Product_Code Like 'HC%'"), "0");
-    database->ExecuteScript("UPDATE Items SET Active = 0 WHERE Product_Code = 'FD001';");
-    EXPECT_EQ(Query("Select Count(*) From dbo.Sp_Get_Items_QAX('1') Where Product_Code = 'FD001'"), "0");
     EXPECT_EQ(Query("Select Count(*) From dbo.Sp_Get_Items_QAX('')"), "0");
-}
-
-TEST_F(ServerObjects, TheDefaultSalesmanAndBeatOfACustomer) {
-    // Several beats: the first by number; several salesmen: the first by number.
-    EXPECT_EQ(Call("Sp_Get_BeatSalesMan_QAX", {Text("C001"), Int(1)}), "1|Arun Kumar|1|Anna Nagar");
-    EXPECT_EQ(Call("Sp_Get_BeatSalesMan_QAX", {Text("C002"), Int(1)}), "1|Arun Kumar|2|T Nagar");
-    EXPECT_EQ(Call("Sp_Get_BeatSalesMan_QAX", {Text("C012"), Int(1)}), "");
-
-    EXPECT_EQ(Call("Sp_Get_BeatSalesMan_Cust_QAX", {Int(2)}), "2");
-    EXPECT_EQ(Call("Sp_Get_BeatSalesMan_Cust_QAX", {Int(4)}), "");
-
-    // Whether a beat is active is read through isBeatDeactivated by the party refusals.
 }
 
 TEST_F(ServerObjects, GroupsGiveTheActiveItemsOfTheirCategories) {

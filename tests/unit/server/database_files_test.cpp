@@ -79,7 +79,7 @@ TEST(DatabaseFiles, MakingRefusesAnExistingFileAndCleansUpAFailure) {
     EXPECT_TRUE(IsDispatchDatabase(*OpenEmbedded(empty)));
 }
 
-TEST(DatabaseFiles, ACopyIsAConsistentPrivateSnapshot) {
+TEST(DatabaseFiles, ACopyIsAConsistentSnapshot) {
     const std::string source = ScratchPath("source", ".db"), copied = ScratchPath("copy", ".db");
     auto writer = CreateDatabase(source, true);
     writer->Execute("Update Customer Set CreditLimit = 1 Where CustomerID = 'C001'");
@@ -94,10 +94,6 @@ TEST(DatabaseFiles, ACopyIsAConsistentPrivateSnapshot) {
     auto copy = OpenEmbedded(copied);
     EXPECT_EQ(RowsText(copy->ExecuteNative("SELECT count(*) FROM DispatchDetail")), details);
     EXPECT_EQ(RowsText(copy->ExecuteNative("SELECT CreditLimit FROM Customer WHERE CustomerID = 'C001'")), "1r");
-    EXPECT_EQ(RowsText(copy->ExecuteNative("PRAGMA journal_mode")), "wal");
-
-    copy->Execute("Update Customer Set CreditLimit = 2 Where CustomerID = 'C001'");
-    EXPECT_EQ(RowsText(writer->ExecuteNative("SELECT CreditLimit FROM Customer WHERE CustomerID = 'C001'")), "1r");
 
     EXPECT_THAT(Refusal([&] { CopyDatabase(source, copied); }), HasSubstr("exists already"));
     const std::string second = ScratchPath("copy", ".db");

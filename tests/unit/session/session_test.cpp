@@ -22,13 +22,6 @@ TEST_F(SessionTest, OpenDatesDefaultToTodayAndAFormWithoutAScreenOpensNone) {
     EXPECT_THAT(outcome.out, HasSubstr("FAIL line 3: click cmdSave: the screen did not open"));
 }
 
-TEST_F(SessionTest, TraceShowsTheStatementsTheScreenSends) {
-    auto outcome = Run(kOpen + "call Query \"SELECT 40 + 2\"\nexpect result \"42\"\n", true);
-    EXPECT_EQ(outcome.status, 0) << outcome.out;
-    EXPECT_THAT(outcome.out, HasLine("sql SELECT 40 + 2"));
-    EXPECT_THAT(Run(kOpen + "call Query \"SELECT 40 + 2\"\n").out, Not(HasSubstr("sql SELECT")));
-}
-
 TEST_F(SessionTest, ScriptErrorsStopAtTheirLineWithStatusTwo) {
     struct Case {
         std::string script, error;

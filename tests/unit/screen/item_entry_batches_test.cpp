@@ -134,10 +134,15 @@ TEST_F(BatchList, InAnAmendmentAnExpiredBatchTheNoteHoldsComesBack) {
     EXPECT_EQ(added.SubItem(5), "");
     EXPECT_EQ(added.SubItem(11), "PTR") << "what the batch's price applies on";
 
-    // A batch the list still shows takes the line back on its own entry; nothing is added.
-    form->DispatchBatchDetails("FD001", "MB2401", "216", 1, 0, 1, "MB2401");
-    EXPECT_EQ(form->lstAvailable.Count(), 3);
-    EXPECT_EQ(form->lstAvailable.SelectedIndex(), 1);
+    // A batch the list still shows takes the line back on its own entry, whether the
+    // list shows its batch column or not; nothing is added.
+    for (const char* shown : {"1", "0"}) {
+        database->ExecuteNative(std::string("UPDATE Items SET Virtual_Track_Batches = ") + shown +
+                                " WHERE Product_Code = 'FD001'");
+        form->DispatchBatchDetails("FD001", "MB2401", "216", 1, 0, 1, "MB2401");
+        EXPECT_EQ(form->lstAvailable.Count(), 3) << shown;
+        EXPECT_EQ(form->lstAvailable.SelectedIndex(), 1) << shown;
+    }
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 

@@ -1,6 +1,7 @@
 #include "host/plain_tools.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "host/dialog_replies.h"
 #include "host/result_sets.h"
@@ -27,21 +28,38 @@ bool AskForText(HostState& state, const std::string& dialog, const std::string& 
     return !cancelled;
 }
 
-bool PlainTools::CheckCloseDay(platform::Date date, int) {
-    bool open = state_.settings.Boolean("CloseDayOpen");
+// The latest day the distributor closed, from the company's own record; none when no
+// day has been closed yet.
+std::optional<platform::Date> PlainTools::LastClosedDay() {
+    auto last = state_.connection->Execute("Select Max(CloseDate) From DayClose");
+    if (!last || last->Eof()) return std::nullopt;
+    const platform::Value value = last->Fields(0);
+    if (value.IsNull() || value.IsEmpty()) return std::nullopt;
+    if (value.kind() == platform::Value::Kind::Date) return platform::DateOnly(value.AsDate());
+    auto day = platform::ParseIsoDate(platform::ToText(value));
+    return day ? std::optional(platform::DateOnly(*day)) : std::nullopt;
+}
+
+bool PlainTools::CheckCloseDay(platform::Date date, int closeDayModeOne) {
+    const platform::Date day = platform::DateOnly(date);
+    auto refuse = [&](const std::string& why) {
+        state_.transcript.Status(why, 1);
+        return false;
+    };
     auto opening = platform::ParseIsoDate(state_.settings.Text("GetOpeningDate"));
-    bool beforeOpening = opening && platform::DateOnly(date).serial < opening->serial;
-    if (beforeOpening) {
-        state_.transcript.Status(
-            "Transactions cannot be posted before the opening date " + platform::DateToText(*opening) + ".", 1);
-        return false;
-    }
-    if (!open) {
-        state_.transcript.Status("Day close has been done for " + platform::DateToText(platform::DateOnly(date)) +
-                                     ". Transactions cannot be posted to it.",
-                                 1);
-        return false;
-    }
+    if (opening && day.serial < opening->serial)
+        return refuse("Transactions cannot be posted before the opening date " + platform::DateToText(*opening) + ".");
+    const auto closed = LastClosedDay();
+    if (!closed) return true;
+    if (day.serial <= closed->serial)
+        return refuse("Day close has been done for " + platform::DateToText(day) +
+                      ". Transactions cannot be posted to it.");
+    // Mode 1 keeps the days in order: the day after the latest closed one must be
+    // closed before a later day takes postings.
+    const platform::Date nextOpen{closed->serial + 1};
+    if (closeDayModeOne == -1 && day.serial > nextOpen.serial)
+        return refuse("Day close has not been done for " + platform::DateToText(nextOpen) +
+                      ". Close it before posting to a later day.");
     return true;
 }
 

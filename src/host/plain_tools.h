@@ -3,6 +3,7 @@
 // session's queue, or the dialog's default when none waits.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -46,6 +47,7 @@ public:
 
 private:
     std::vector<std::string> OfferedFreeItems(long slabID);
+    std::optional<platform::Date> LastClosedDay();
     HostState& state_;
     NotePrinter printer_;
     std::vector<std::string> notFound_;  // the item codes handed over for the not-found dialog

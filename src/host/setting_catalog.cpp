@@ -25,7 +25,6 @@ std::vector<SettingInfo> MakeCatalog() {
         {"GetTinCheckEnabled", K::Boolean, "false"},
         {"GetOCGEnabled", K::Boolean, "false"},
         {"GetDatedPostingEnabled", K::Boolean, "false"},
-        {"CloseDayOpen", K::Boolean, "true"},
         // 0 prints after a save without asking, 1 asks, 2 never prints after a save
         {"GetPrintOnSaveMode", K::Integer, "2"},
         {"GetPrinterService", K::Integer, "0"},

@@ -1,6 +1,6 @@
 // The host's settings, by the name of the operation that reads each one
 // ("GetCustomerNameFirst", "GetPrintOnSaveMode", "AdministratorPassword",
-// "CloseDayOpen", ...). Every setting has a default; a settings file or the
+// "GetCloseDayMode", ...). Every setting has a default; a settings file or the
 // session's `setting` verb overrides it.
 #pragma once
 

@@ -435,6 +435,15 @@ public:
     void PrintViewedDispatch();
     void WireSavingAndPrinting();
 
+    // ---- the save button ---------------------------------------------------------------
+    std::int32_t nDSTypeGroup = 0;  // the group DSTypeCatMapped gives for the note's salesman
+    void cmdSave_Click();
+    void cmdSave_KeyDown(int& KeyCode, int Shift);
+    bool ValidateHealthCareItems(const std::string& szCustomerCode);
+    bool ValidateQty(long nRows);
+    // After a saved note: the document lists start again.
+    void InitValues();
+
     // ---- call-backs of the host's lists -----------------------------------------
     void AutoListCallBack() override;
     void CustomerCallBack(const std::string& szCustomerCode, const std::string& szCustomerName) override;
@@ -470,6 +479,11 @@ private:
         if (!object) throw platform::RuntimeError(platform::err::ObjectNotSet);
         return *object;
     }
+
+    // The checks of cmdSave_Click that ask the host or the database.
+    bool DayMayStillBePosted();
+    bool SalesmanBeatAndCustomerMapped();
+    bool LinesSoldByTheGroup();
 
     // The steps of SaveDispatch and the locals that cross them.
     struct SaveLocals;

@@ -48,6 +48,14 @@ CREATE TABLE tbl_Zuro_ConfigAbstract (
     Flag BIT NOT NULL DEFAULT 0
 );
 
+-- The days the distributor has closed: nothing more is posted to a closed day, nor to
+-- any day before it.
+CREATE TABLE DayClose (
+    CloseDate DATETIME NOT NULL PRIMARY KEY,
+    ClosedBy TEXT DEFAULT '',
+    ClosedOn DATETIME
+);
+
 CREATE TABLE SchemaInfo (
     Name TEXT NOT NULL PRIMARY KEY COLLATE NOCASE,
     Value TEXT

@@ -2,6 +2,7 @@
 // Only active salesmen, beats and customers are mapped, and customers of categories
 // 4 and 5 never are.
 #include "platform/convert.h"
+#include "server/procedure_arguments.h"
 #include "server/procedure_context.h"
 #include "server/procedures/parties_arguments.h"
 #include "server/procedures/parties_procedures.h"
@@ -61,6 +62,25 @@ WHERE i.Active = 1 AND d.GroupID IN ()SQL" +
                              placeholders + R"SQL()
 ORDER BY i.ProductName)SQL",
                          groups);
+}
+
+// Whether the salesman serves the beat and the beat holds the customer (any customer
+// when none is named), all of them active: one row, 1 or 0.
+std::vector<platform::ResultSet> CheckForMapping(ProcedureContext& context, const platform::ParameterList& parameters) {
+    const ProcedureArguments args("sp_CheckForMapping_QAX", parameters, {"@SalesmanID", "@BeatID", "@CustomerID"});
+    args.ExpectAtMost(3);
+    return {context.Query(R"SQL(
+SELECT CASE WHEN EXISTS (
+    SELECT 1
+    FROM SalesmanBeat m
+    JOIN Salesman s ON s.SalesmanID = m.SalesmanID AND s.Active = 1
+    JOIN Beat b ON b.BeatID = m.BeatID AND b.Active = 1
+    WHERE m.SalesmanID = ?1 AND m.BeatID = ?2
+      AND (?3 = '' OR EXISTS (
+          SELECT 1 FROM BeatCustomer bc JOIN Customer c ON c.CustomerID = bc.CustomerID AND c.Active = 1
+          WHERE bc.BeatID = m.BeatID AND bc.CustomerID = ?3 COLLATE NOCASE)))
+THEN 1 ELSE 0 END AS Mapped)SQL",
+                          {args.Int(0), args.Int(1), platform::Trim(platform::ToText(args.Text(2)))})};
 }
 
 }  // namespace server::parties

@@ -38,6 +38,7 @@ std::vector<platform::ResultSet> CatMappedDSTypeID(ProcedureContext& context,
                                                    const platform::ParameterList& parameters);
 std::vector<platform::ResultSet> CheckGroupExistsForSalesman(ProcedureContext& context,
                                                              const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> CheckForMapping(ProcedureContext& context, const platform::ParameterList& parameters);
 
 // The whole numbers of a comma list of group IDs, in the order given; blanks and
 // entries that are not numbers are passed over.

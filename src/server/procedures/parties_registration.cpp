@@ -15,6 +15,7 @@ void RegisterPartyProcedures(ProcedureRegistry& registry) {
     registry.RegisterProcedure("sp_CheckForAllCatGrpMapped", &parties::CheckForAllCatGrpMapped);
     registry.RegisterProcedure("sp_get_CatMappedDSTypeID", &parties::CatMappedDSTypeID);
     registry.RegisterProcedure("Sp_CheckGroupExistsForSalesman", &parties::CheckGroupExistsForSalesman);
+    registry.RegisterProcedure("sp_CheckForMapping_QAX", &parties::CheckForMapping);
 }
 
 }  // namespace server

@@ -1,0 +1,112 @@
+// The save button's checks of the lines and parties: the health care gate, each line's
+// quantity and name, the mapping of salesman, beat and customer, the items a group or a
+// DS type sells, and a line whose item was taken away. Nothing refused is written.
+#include <string>
+
+#include "grid/row_model/grid_columns.h"
+#include "screen_fixture.h"
+
+namespace screen_test {
+namespace {
+
+using namespace grid;
+
+class SaveButton : public PartiesTest {
+protected:
+    // Ravi Stores as the clerk chooses them (Arun Kumar, Anna Nagar, Foods and
+    // Beverages come with them), with a box of Salt Crackers and two of Marie keyed.
+    void RaviNote() {
+        Type(f.txtCustomer, "Ravi");
+        ScreenTest::Pick(1);
+        Key(f.txtCustomer, 13);
+        KeyLine(1, "FD003", "5");
+        KeyLine(2, "FD001", "2");
+        Numbered();
+    }
+    void KeyLine(int row, const std::string& item, const std::string& quantity) {
+        for (auto [col, text] : {std::pair{colItemCode, item}, std::pair{colQuantity, quantity}}) {
+            f.DTFlexDispatch.UserGoto(row, col);
+            f.DTFlexDispatch.UserType(text);
+            f.DTFlexDispatch.UserKey(13);
+        }
+    }
+    std::string Notes() { return Scalar("SELECT Count(*) FROM DispatchAbstract"); }
+};
+
+TEST_F(SaveButton, ASalesmanOffTheBeatAndLinesTheGroupOrDSTypeDoesNotSellAreRefused) {
+    RaviNote();
+    const std::string notes = Notes();
+    struct Case {
+        std::string salesman, salesmanID, group, groupTag;
+        long number;
+    } cases[] = {
+        {"Chitra Devi", "3", "Foods", "1", 35},  // Chitra serves Velachery only
+        {"Arun Kumar", "1", "Beverages", "2", 13},
+        // Chitra's DS type sells health and personal care, whatever group the note shows.
+        {"Chitra Devi", "3", "Foods", "1", 13},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.number);
+        if (c.number == 13 && c.salesmanID == "3")
+            Scalar("INSERT INTO SalesmanBeat (SalesmanID, BeatID) VALUES (3, 1)");
+        Pick(f.txtSalesman, c.salesman, c.salesmanID);
+        Pick(f.txtCategory, c.group, c.groupTag);
+        f.cmdSave_Click();
+        EXPECT_EQ(Numbered(), std::vector<long>{c.number});
+        EXPECT_EQ(Focused(), "cmdSave");
+    }
+    EXPECT_EQ(Notes(), notes);
+
+    // Under all categories the parties are not looked at.
+    f.bAllCategories = true;
+    f.cmdSave_Click();
+    EXPECT_TRUE(Numbered().empty());
+    EXPECT_NE(Notes(), notes);
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(SaveButton, ALineWhoseItemWasTakenAwayStopsTheSaveAtItsRow) {
+    RaviNote();
+    SetCell(colItemCode, "");
+    f.cmdSave_Click();
+    EXPECT_EQ(LastStatus(), "Invalid Item selected");
+    EXPECT_EQ(f.DTFlexDispatch.GridRow(), 1);
+    EXPECT_EQ(f.DTFlexDispatch.GridCol(), colItemName);
+    EXPECT_EQ(Notes(), "9");
+}
+
+TEST_F(SaveButton, HealthCareItemsWithAPriceNeedACustomerWithADrugLicence) {
+    auto& grid = f.DTFlexDispatch;
+    grid.SetGridRows(2);
+    for (auto [col, text] : {std::pair{colItemCode, "HC001"}, {colSalePrice, "0"}, {colQuantity, "1"}})
+        SetCell(col, text);
+    EXPECT_TRUE(f.ValidateHealthCareItems("C005")) << "a free row is passed over";
+    SetCell(colSalePrice, "18");
+    EXPECT_TRUE(f.ValidateHealthCareItems("C010")) << "one licence number is enough";
+    EXPECT_TRUE(Messages().empty());
+    EXPECT_FALSE(f.ValidateHealthCareItems("C005"));
+    EXPECT_EQ(Messages(),
+              std::vector<std::string>{
+                  "Customer do not have the DL Number, delete the Healthcare Items for saving the Transaction"});
+}
+
+TEST_F(SaveButton, EveryLineNeedsAQuantityAndTheNameOfItsCode) {
+    auto& grid = f.DTFlexDispatch;
+    grid.SetGridRows(2);
+    for (auto [col, text] :
+         {std::pair{colItemCode, "FD003"}, {colItemName, "salt crackers 200G"}, {colUOMID, "1"}, {colQuantity, "5"}})
+        SetCell(col, text);
+    EXPECT_TRUE(f.ValidateQty(1)) << "names match in any case";
+
+    SetCell(colItemName, "Salt Crackers");
+    EXPECT_FALSE(f.ValidateQty(1));
+    EXPECT_EQ(LastStatus(), "Invalid ItemCode / ItemName ");
+    EXPECT_EQ(f.DTFlexDispatch.GridCol(), colItemName);
+
+    SetCell(colQuantity, "0");
+    EXPECT_FALSE(f.ValidateQty(1));
+    EXPECT_EQ(LastStatus(), "Invalid quantity");
+}
+
+}  // namespace
+}  // namespace screen_test

@@ -40,7 +40,7 @@ void Zuro_frmDispatch_Dispatch::cmdSave_Click() {
             };
 
             if ((nMode == mode::FromSalesConfirmation || nMode == mode::NewDispatch || nMode == mode::Amendment) &&
-                DSTypeNotMapped("")) {
+                DSTypeNotMapped(txtCategory.Text())) {
                 txtSalesman.SetFocus();
                 return;
             }

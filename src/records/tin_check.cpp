@@ -14,7 +14,7 @@ void Zuro_frmDispatch_Dispatch::CheckTinNumber() {
         if (szCustomer.empty()) return;
         const platform::Value vTin =
             global.LookupValue(global.GetConnection(), "select tin_number from customer where customerid = N'" +
-                                                           global.EscapeQuotes(txtCustomer.Tag) + "'");
+                                                           txtCustomer.Tag + "'");
         if (platform::Trim(platform::ToText(vTin)).empty())
             host_.messages.AskMessage("TIN number does not exist for this customer",
                                       host_services::msgbox::Information);

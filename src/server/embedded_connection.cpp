@@ -20,9 +20,13 @@ EmbeddedConnection::EmbeddedConnection(const std::string& path, const Options& o
                                        const ProcedureRegistry& registry)
     : database_(path, DatabaseOptions{options.busyTimeoutMs, options.create}), registry_(&registry) {}
 
+// One statement a call: text typed into the screen that closes the screen's statement
+// and stacks another behind it is refused before anything runs.
 platform::RecordsetPtr EmbeddedConnection::Execute(const std::string& sql) {
+    const auto statements = SplitBatch(sql);
+    if (statements.size() > 1) ThrowServer("Only one statement may be run here; found more: " + statements[1]);
     std::vector<platform::ResultSet> results;
-    for (const auto& statement : SplitBatch(sql)) results.push_back(RunStatement(statement));
+    for (const auto& statement : statements) results.push_back(RunStatement(statement));
     return std::make_shared<platform::Recordset>(std::move(results));
 }
 

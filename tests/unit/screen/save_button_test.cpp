@@ -1,9 +1,11 @@
 // The save button's checks of the lines and parties: the health care gate, each line's
 // quantity and name, the mapping of salesman, beat and customer, the items a group or a
 // DS type sells, and a line whose item was taken away. Nothing refused is written.
+#include <memory>
 #include <string>
 
 #include "grid/row_model/grid_columns.h"
+#include "platform/recording_connection.h"
 #include "screen_fixture.h"
 
 namespace screen_test {
@@ -106,6 +108,29 @@ TEST_F(SaveButton, EveryLineNeedsAQuantityAndTheNameOfItsCode) {
     SetCell(colQuantity, "0");
     EXPECT_FALSE(f.ValidateQty(1));
     EXPECT_EQ(LastStatus(), "Invalid quantity");
+}
+
+// A customer code typed with a statement behind it goes to the server as the screen
+// writes the statement; the server runs one statement a call, so the handler logs the
+// refusal and nothing is written.
+TEST_F(ScreenTest, ACustomerCodeCarryingAStatementMeetsTheServersRefusal) {
+    auto recorder = std::make_shared<platform::RecordingConnection>(database);
+    UseConnection(recorder);
+    Open(2);
+    form->DTFlexDispatch.SetGridRows(2);
+    for (auto [col, text] : {std::pair{colItemCode, "HC001"}, {colSalePrice, "18"}, {colQuantity, "1"}})
+        SetCell(col, text);
+    form->txtCustomerID.SetText("C005'; DELETE FROM Customer --");
+    form->cmdSave_Click();
+    EXPECT_TRUE(TranscriptHas(
+        "Dispatch: cmdSave_Click - Only one statement may be run here; found more: DELETE FROM Customer --'"))
+        << ErrorLines();
+    EXPECT_EQ(Scalar("SELECT Count(*) FROM Customer"), "15");
+    const std::string sent =
+        "Select isnull(rtrim(ltrim(DLNumber)),'') from customer where CustomerID= 'C005'; DELETE FROM Customer --'";
+    bool found = false;
+    for (const auto& call : recorder->Calls()) found = found || call.text == sent;
+    EXPECT_TRUE(found);
 }
 
 }  // namespace

@@ -1,12 +1,14 @@
 // What the ticked rows of the document list give the screen: the document
 // numbers, their IDs and the customer they belong to.
 #include "platform/convert.h"
+#include "platform/runtime_error.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
 
 namespace {
-// A comma list built with a trailing comma loses it, as the screen always cut it.
+// A comma list built with a trailing comma loses it, as the screen always cut it;
+// a list that took nothing loses its last character all the same.
 void CutLastCharacter(std::string& list) {
     list = platform::Trim(list);
     if (!list.empty()) list.pop_back();
@@ -18,13 +20,16 @@ void Zuro_frmDispatch_Dispatch::GetDetails() {
         szDocNumbers.clear();
         szDocIDs.clear();
         szDocIDs2.clear();
-        bool customerTaken = false;
-        auto takeCustomer = [&](const platform::ListItem& row) {
+        // The customer's code comes from the selected row, or from the ticked row's
+        // key when the selected row carries none.
+        auto customerCodeOf = [&](const platform::ListItem& row) {
             const int selected = lstSO.SelectedIndex();
-            const std::string fromSelected = selected > 0 ? lstSO.Item(selected).SubItem(8) : std::string();
-            szCustomerCode = platform::Trim(fromSelected).empty() ? row.Tag : fromSelected;
-            customerTaken = true;
+            if (selected == 0) throw platform::RuntimeError(platform::err::ObjectNotSet);
+            const std::string fromSelected = lstSO.Item(selected).SubItem(8);
+            return platform::Trim(fromSelected).empty() ? row.Tag : fromSelected;
         };
+        bool bRowTicked = false;
+        bool bDocumentTicked = false;
         for (int i = 1; i <= lstSO.Count(); ++i) {
             const platform::ListItem& row = lstSO.Item(i);
             if (!row.Checked) continue;
@@ -33,17 +38,27 @@ void Zuro_frmDispatch_Dispatch::GetDetails() {
                 szDocIDs += row.SubItem(1) + ",";
                 szPONumbers += row.SubItem(5) + ",";
                 szDocIDs2 += row.SubItem(1) + ",";
-                if (!customerTaken) {
-                    takeCustomer(row);
+                if (!bDocumentTicked) {
+                    szCustomerCode = customerCodeOf(row);
                     szCustomerName = host_.global.LookupName("Customer", "CustomerID", "Company_Name", row.Tag);
+                    bDocumentTicked = true;
                 }
-            } else if (!customerTaken) {
-                takeCustomer(row);
+            } else if (!bRowTicked) {
+                szCustomerCode = customerCodeOf(row);
                 szCustomerName = row.Text;
             }
+            bRowTicked = true;
         }
         for (std::string* list : {&szDocNumbers, &szDocIDs, &szPONumbers, &szDocIDs2}) CutLastCharacter(*list);
     });
+}
+
+bool Zuro_frmDispatch_Dispatch::Validate() {
+    bool bTicked = false;
+    Handled("Validate", [&] {
+        for (int i = 1; i <= lstSO.Count() && !bTicked; ++i) bTicked = lstSO.Item(i).Checked;
+    });
+    return bTicked;
 }
 
 }  // namespace screen

@@ -86,6 +86,12 @@ Zuro_frmDispatch_Dispatch::Zuro_frmDispatch_Dispatch(host_services::HostServices
     Frame2.Top = 1500, Frame2.Left = 120, Frame2.Width = 10950, Frame2.Height = 4800;
     lstSO.Container = &Frame2;
     lstSO.Top = 240, lstSO.Left = 120, lstSO.Width = 10700, lstSO.Height = 4400, lstSO.CheckBoxes = true;
+    // The document list's ten columns as designed: the customer, the document's shown
+    // number, its dates, value and reference; the last four carry keys and stay narrow.
+    lstSO.ColumnHeaders = {{"Customer", 2500, 0},      {"SC Number", 1200, 0}, {"Date", 1200, 0},
+                           {"Delivery Date", 1300, 0}, {"Value", 1200, 0},     {"PO Reference", 1600, 0},
+                           {"SC Number", 0, 0},        {"Doc ID", 0, 0},       {"CustomerID", 0, 0},
+                           {"Document Type", 0, 0}};
     for (auto* button : {&cmdGo, &cmdRefresh, &cmdContinue, &cmdClose_0})
         button->Container = &Frame1_0, button->Height = 375;
     cmdGo.Top = 240, cmdGo.Left = 9000, cmdGo.Caption = "&Go";

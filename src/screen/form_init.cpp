@@ -103,14 +103,18 @@ void Zuro_frmDispatch_Dispatch::InitForm(platform::Date DServerDate, long nModeA
                 if (nMode == mode::Amendment) cmdContinue.Caption = messages.GetLabel("&Amend");
                 if (nMode == mode::FromPurchaseOrder || nMode == mode::Amendment) InitAutolist();
                 InitCustAutolists();
+                InitList();
                 SetFrame(1);
                 ShowAllCustomers();
                 SelectActiveText();
+                // The stored notes of Modes 4, 5 and 7 are listed by ListDispatch, which
+                // is not part of the screen yet.
                 if (nMode == mode::Amendment) {
                     global.ShowStatus("Loading Dispatches...", 0);
                     global.ShowStatus("Loading Dispatches... Done", 0);
                 } else {
                     global.ShowStatus("Loading Pending Orders...", 0);
+                    if (nMode == mode::FromPurchaseOrder) ListAllPOAbstract();
                     global.ShowStatus("Loading Pending Orders...Done", 0);
                 }
                 InitDTFlexDispatch();
@@ -119,11 +123,13 @@ void Zuro_frmDispatch_Dispatch::InitForm(platform::Date DServerDate, long nModeA
             case mode::FromAlert:
                 TitleFrame(titles.frameTitle);
                 Frame2.Caption = messages.GetLabel(titles.listCaption);
+                InitList();
                 SetFrame(1);
                 InitAutolist();
                 InitCustAutolists();
                 ShowAllCustomers();
                 global.ShowStatus("Loading ...", 0);
+                ListAllSOAbstract();
                 global.ShowStatus(global.GetReadyMessage(), 0);
                 InitDTFlexDispatch();
                 break;

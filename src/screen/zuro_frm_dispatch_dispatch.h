@@ -97,8 +97,29 @@ public:
     void ClearMemoFields();
     void InitDTFlexDispatch();
 
-    // ---- the document list -----------------------------------------------------------
+    // ---- the document lists: pending sales confirmations, received purchase orders ----
+    void InitList();
+    void InitValues();
+    void ListAllSOAbstract();
+    void ListSpecifiedSOAbstract(const std::string& szCustomerID);
+    void LoadData(platform::Recordset& rsRecords);
+    void ListAllPOAbstract();
+    void ListSpecifiedPOAbstract(const std::string& szCustomerID);
+    void LoadPOData(platform::Recordset& rsRecords);
     void GetDetails();
+    bool Validate();
+    void SelectConfirmation(platform::ListView& lstView, int Item, bool bSingle, bool bKeepOthers);
+    void lstSO_ItemCheck(int Item);
+    void lstSO_KeyDown(int& KeyCode, int Shift);
+    void cmdRefresh_Click();
+    void dtFromDate_LostFocus();
+    void dtToDate_LostFocus();
+    void dtFromDate_KeyDown(int& KeyCode, int Shift);
+    void dtToDate_KeyDown(int& KeyCode, int Shift);
+    // The pending documents of the mode for the customer filter: every customer's
+    // under the tag "%", else szCustomerCode's.
+    void ListPendingDocuments();
+    void WireDocumentLists();
 
     // ---- pages, layout and focus -------------------------------------------------
     void SetFrame(long nScreen);

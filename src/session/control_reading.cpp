@@ -119,7 +119,14 @@ std::string StateLine(const platform::Control& control) {
     return line;
 }
 
+// The columns first, as "heading" width; the rows' fields follow in that order.
 void AddListViewLines(const platform::ListView& view, std::vector<std::string>& lines) {
+    if (!view.ColumnHeaders.empty()) {
+        std::string line = fmt::format("  view {} check boxes {} columns", view.View, view.CheckBoxes);
+        for (const auto& column : view.ColumnHeaders)
+            line += fmt::format(" | {} {}", Quote(column.Text), platform::NumberToText(column.Width));
+        lines.push_back(line);
+    }
     for (int i = 1; i <= view.Count(); ++i) {
         const auto& item = view.Item(i);
         std::string line = fmt::format("  {} [{}] {}", i, item.Checked ? 'x' : ' ', Quote(item.Text));

@@ -3,9 +3,11 @@
 #include <fmt/format.h>
 #include <cctype>
 #include <charconv>
+#include <optional>
 
 #include "platform/convert.h"
 #include "session/script_error.h"
+#include "session/today.h"
 
 namespace session {
 namespace {
@@ -42,14 +44,30 @@ bool BooleanWord(const ScriptCommand& command, std::size_t n) {
     throw ScriptError(command.line, fmt::format("expected true or false, not {}", Quote(word)));
 }
 
+// "T", "T-12", "T+3": today on this machine and days from it, the day the demo
+// database counts its dates from.
+static std::optional<platform::Date> DayFromToday(const std::string& word) {
+    if (word.empty() || word[0] != 'T') return std::nullopt;
+    if (word.size() == 1) return Today();
+    const std::string digits = word.substr(2);
+    long days = 0;
+    if ((word[1] != '-' && word[1] != '+') || digits.empty() || digits.size() > 5 ||
+        digits.find_first_not_of("0123456789") != std::string::npos || !ParseLong(digits, days))
+        return std::nullopt;
+    return platform::Date{Today().serial + (word[1] == '-' ? -days : days)};
+}
+
 platform::Date DateWord(const ScriptCommand& command, std::size_t n) {
     const std::string& word = command.Argument(n);
+    if (auto day = DayFromToday(word)) return *day;
     // The day and time parts must be complete: a partial date is a typing slip.
     bool shaped = word.size() == 10 || (word.size() == 19 && (word[10] == 'T' || word[10] == ' '));
     auto date = shaped ? platform::ParseIsoDate(word) : std::nullopt;
     if (!date)
         throw ScriptError(command.line,
-                          fmt::format("a date is written YYYY-MM-DD or YYYY-MM-DDTHH:MM:SS, not {}", Quote(word)));
+                          fmt::format("a date is written YYYY-MM-DD or YYYY-MM-DDTHH:MM:SS, or T, T-N, T+N "
+                                      "for days from today, not {}",
+                                      Quote(word)));
     return *date;
 }
 

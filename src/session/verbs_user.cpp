@@ -114,6 +114,7 @@ void SetTick(Session& session, const ScriptCommand& command, bool ticked) {
         auto& view = static_cast<platform::ListView&>(control);
         int row = RowWithin(command, 2, 1, view.Count(), view);
         session.GiveFocus(command, view);
+        if (!view.CheckBoxes) throw ActionRefused(fmt::format("{} shows no check boxes", view.FullName()));
         if (view.Item(row).Checked == ticked) return;
         view.Item(row).Checked = ticked;
         view.ItemCheck.Raise(row);

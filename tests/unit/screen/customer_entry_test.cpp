@@ -81,24 +81,6 @@ TEST_F(CustomerEntry, TheCustomerFormHandsBackACustomer) {
     EXPECT_EQ(Box(f.txtCustomer), "Lakshmi Provisions|C009");
 }
 
-TEST_F(CustomerEntry, TheTickedDocumentsNameTheCustomer) {
-    Zuro_frmDispatch_Dispatch& f = Open(1);
-    f.lstSO.Clear();
-    auto& header = f.lstSO.Add("Anand Stores");
-    header.Tag = "C001";
-    header.Checked = true;
-    auto& document = f.lstSO.Add();
-    document.Tag = "C001";
-    document.Checked = true;
-    document.SetSubItem(1, "SC4");
-    document.SetSubItem(6, "4");
-    f.GetDetails();
-    EXPECT_EQ(f.szDocNumbers, "4");
-    EXPECT_EQ(f.szDocIDs, "SC4");
-    EXPECT_EQ(f.szCustomerCode, "C001");
-    EXPECT_EQ(f.szCustomerName, "Anand Stores");
-}
-
 TEST_F(CustomerEntry, TheFiguresOfTheCreditLine) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     // A limit and a limit of -1 (N/A) are read by the customer-refusals session.

@@ -1,0 +1,46 @@
+// Filling the list page again: the refresh button, and the pending documents of the
+// mode for the customer the filter names.
+#include "platform/convert.h"
+#include "screen/zuro_frm_dispatch_dispatch.h"
+
+namespace screen {
+
+namespace {
+bool FromConfirmation(long nMode) { return nMode == mode::FromSalesConfirmation || nMode == mode::FromAlert; }
+bool StoredNotes(long nMode) { return nMode == mode::View || nMode == mode::Cancel || nMode == mode::Amendment; }
+}  // namespace
+
+void Zuro_frmDispatch_Dispatch::ListPendingDocuments() {
+    if (txtCustomer.Tag == "%") {
+        if (FromConfirmation(nMode)) ListAllSOAbstract();
+        if (nMode == mode::FromPurchaseOrder) ListAllPOAbstract();
+    } else {
+        if (FromConfirmation(nMode)) ListSpecifiedSOAbstract(szCustomerCode);
+        if (nMode == mode::FromPurchaseOrder) ListSpecifiedPOAbstract(szCustomerCode);
+    }
+}
+
+void Zuro_frmDispatch_Dispatch::cmdRefresh_Click() {
+    Handled("cmdRefresh_Click", [&] {
+        auto& global = host_.global;
+        const std::string szID = txtCustomerID.Text();
+        if (szID != "%" && platform::UCase(szID) != platform::UCase(host_.messages.GetAllCustomersText()) &&
+            !IsTradeCustomer(szID)) {
+            global.ShowStatus("Select an existing Trade Customer", 1);
+            txtCustomerID.SetFocus();
+            return;
+        }
+        global.ShowStatus(nMode == mode::Amendment ? "Loading Dispatches..." : "Loading Pending Orders...", 0);
+        ListPendingDocuments();
+        // The stored notes of Modes 4, 5 and 7 are listed by ListDispatch, which is
+        // not part of the screen yet.
+        global.ShowStatus(StoredNotes(nMode) ? "Loading Dispatches... Done" : "Loading Pending Orders...Done", 0);
+        lstSO.SetFocus();
+    });
+}
+
+void Zuro_frmDispatch_Dispatch::InitValues() {
+    Handled("InitValues", [&] { cmdRefresh_Click(); });
+}
+
+}  // namespace screen

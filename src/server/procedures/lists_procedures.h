@@ -1,0 +1,27 @@
+// The server objects behind the list page: the documents that still wait for
+// dispatch, pending sales confirmations and received purchase orders.
+#pragma once
+
+#include <vector>
+
+#include "platform/database.h"
+
+namespace server {
+
+class ProcedureRegistry;
+class ProcedureContext;
+
+void RegisterListProcedures(ProcedureRegistry& registry);
+
+namespace lists {
+
+std::vector<platform::ResultSet> AllPendingConfirmations(ProcedureContext& context,
+                                                         const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> CustomerPendingConfirmations(ProcedureContext& context,
+                                                              const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> AllPendingOrders(ProcedureContext& context, const platform::ParameterList& parameters);
+std::vector<platform::ResultSet> CustomerPendingOrders(ProcedureContext& context,
+                                                       const platform::ParameterList& parameters);
+
+}  // namespace lists
+}  // namespace server

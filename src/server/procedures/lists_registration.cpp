@@ -1,0 +1,13 @@
+#include "server/procedure_registry.h"
+#include "server/procedures/lists_procedures.h"
+
+namespace server {
+
+void RegisterListProcedures(ProcedureRegistry& registry) {
+    registry.RegisterProcedure("sp_get_allSOabstract", &lists::AllPendingConfirmations);
+    registry.RegisterProcedure("sp_get_Sos", &lists::CustomerPendingConfirmations);
+    registry.RegisterProcedure("sp_get_allpos", &lists::AllPendingOrders);
+    registry.RegisterProcedure("sp_get_pos", &lists::CustomerPendingOrders);
+}
+
+}  // namespace server

@@ -1,0 +1,69 @@
+// The document lists' edges a clerk's session does not reach: the customer of a
+// selected row that carries its own, a tick with no row selected, and what the list
+// procedures are sent for a customer's text.
+#include <memory>
+
+#include "platform/recording_connection.h"
+#include "screen_fixture.h"
+
+namespace screen_test {
+namespace {
+
+class DocumentLists : public ScreenTest {
+protected:
+    void SetUp() override {
+        recorder = std::make_shared<platform::RecordingConnection>(database);
+        UseConnection(recorder);
+        Open(screen::mode::FromSalesConfirmation);
+    }
+    std::string Sent(const std::string& procedure) const {
+        std::string text;
+        for (const auto& call : recorder->Calls())
+            if (call.text == procedure) text += platform::RecordingConnection::Describe(call) + "\n";
+        return text;
+    }
+    std::shared_ptr<platform::RecordingConnection> recorder;
+};
+
+TEST_F(DocumentLists, TheCustomerComesFromTheSelectedRowElseTheTickedRowsKey) {
+    auto& list = form->lstSO;
+    list.Clear();
+    list.Add("Ravi Stores").Tag = "C005";
+    auto& document = list.Add();
+    document.Tag = "C005";
+    document.SetSubItem(6, "1");
+    document.Checked = true;
+    list.Item(1).SetSubItem(8, "C002");
+    list.Select(1);
+    // The name is looked up by the ticked row's key all the same.
+    form->GetDetails();
+    EXPECT_EQ(form->szCustomerCode + "|" + form->szCustomerName + "|" + form->szDocNumbers, "C002|Ravi Stores|1");
+
+    // With no row selected there is none to read: the lists keep their commas.
+    list.Select(0);
+    form->GetDetails();
+    EXPECT_TRUE(TranscriptHas("error 91 Dispatch: GetDetails - ")) << ErrorLines();
+    EXPECT_EQ(form->szDocNumbers, "1,");
+}
+
+TEST_F(DocumentLists, TheCustomersTextAndThePeriodGoAsParameters) {
+    const std::string text = "C005'; DELETE FROM SOAbstract; --]";
+    form->dtFromDate.Value = platform::DateTime(2026, 10, 8, 15, 30, 0);
+    form->dtToDate.Value = platform::DateSerial(2026, 11, 22);
+    recorder->Clear();
+    form->ListSpecifiedSOAbstract(text);
+    form->ListSpecifiedPOAbstract(text);
+    const std::string arguments =
+        " 'C005''; DELETE FROM SOAbstract; --]', '2026-10-08 00:00:00', '2026-11-22 23:59:59'\n";
+    EXPECT_EQ(Sent("sp_get_Sos"), "sp_get_Sos" + arguments);
+    EXPECT_EQ(Sent("sp_get_pos"), "sp_get_pos" + arguments);
+
+    form->txtCustomerID.SetText(text);
+    recorder->Clear();
+    form->cmdRefresh_Click();
+    EXPECT_EQ(Sent("sp_get_TradeCustomer"), "sp_get_TradeCustomer 'C005''; DELETE FROM SOAbstract; --]'\n");
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+}  // namespace
+}  // namespace screen_test

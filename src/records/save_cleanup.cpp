@@ -55,8 +55,7 @@ void Zuro_frmDispatch_Dispatch::InitAfterAmendment(const std::string& szDispatch
         txtCustomerID.Top = lblFields(4).Top - 10;
         txtCustomerID.Left = dtFromDate.Left;
         txtCustomerID.Height = txtCustomer.Height;
-        // The list page's refresh (cmdRefresh_Click) fills lstSO again here once the
-        // list of stored notes is part of the screen.
+        cmdRefresh_Click();
         host_.global.SetFocusTo(lstSO);
         if (nMode == mode::Amendment)
             host_.global.ShowStatus(messages.FormatMessage("DispatchID = {0} has been Amended", {szDispatchID}), 0);

@@ -206,8 +206,4 @@ void Zuro_frmDispatch_Dispatch::LoadOnce() {
     Form_Load();
 }
 
-// The lists' refresh. The document lists of the list page are not built yet: until
-// they are, a host asking for them meets the runtime's error 438.
-void Zuro_frmDispatch_Dispatch::InitValues() { throw platform::RuntimeError(platform::err::NotSupported); }
-
 }  // namespace screen

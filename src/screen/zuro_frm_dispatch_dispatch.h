@@ -462,8 +462,6 @@ public:
     void cmdSave_KeyDown(int& KeyCode, int Shift);
     bool ValidateHealthCareItems(const std::string& szCustomerCode);
     bool ValidateQty(long nRows);
-    // After a saved note: the document lists start again.
-    void InitValues();
 
     // ---- call-backs of the host's lists -----------------------------------------
     void AutoListCallBack() override;

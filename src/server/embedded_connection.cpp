@@ -20,9 +20,15 @@ EmbeddedConnection::EmbeddedConnection(const std::string& path, const Options& o
                                        const ProcedureRegistry& registry)
     : database_(path, DatabaseOptions{options.busyTimeoutMs, options.create}), registry_(&registry) {}
 
+// One statement a call: text that closes the statement and opens another behind it
+// is refused before anything runs, so a value spliced into a statement can at most
+// break that statement.
 platform::RecordsetPtr EmbeddedConnection::Execute(const std::string& sql) {
+    const std::vector<std::string> statements = SplitBatch(sql);
+    if (statements.size() > 1)
+        ThrowServer("Only one statement may be run here; found more after: " + statements.front());
     std::vector<platform::ResultSet> results;
-    for (const auto& statement : SplitBatch(sql)) results.push_back(RunStatement(statement));
+    for (const auto& statement : statements) results.push_back(RunStatement(statement));
     return std::make_shared<platform::Recordset>(std::move(results));
 }
 

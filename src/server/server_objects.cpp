@@ -3,6 +3,7 @@
 #include "server/procedure_registry.h"
 #include "server/procedures/header_procedures.h"
 #include "server/procedures/items_procedures.h"
+#include "server/procedures/loading_procedures.h"
 #include "server/procedures/parties_procedures.h"
 #include "server/procedures/print_procedures.h"
 #include "server/procedures/save_procedures.h"
@@ -20,6 +21,7 @@ void RegisterServerObjects(ProcedureRegistry& registry) {
     RegisterStockProcedures(registry);
     RegisterSaveProcedures(registry);
     RegisterPrintProcedures(registry);
+    RegisterLoadingProcedures(registry);
 }
 
 }  // namespace server

@@ -42,16 +42,16 @@ TEST_F(ValueMapping, BoundValuesGoInAsTheDatabaseKeepsThem) {
               "9;20");
 }
 
-TEST_F(ValueMapping, ChangesReportTheirRowsAndBatchesGiveOneResultEach) {
+TEST_F(ValueMapping, ChangesReportTheirRowsAndAStackedStatementIsRefusedWhole) {
     EXPECT_EQ(
         db().Execute("Update [POAbstractReceived] set Status = Status | 128 where [PONumber] IN (1,2)")->RowsAffected(),
         2);
     EXPECT_EQ(db().Execute("Update [POAbstractReceived] set Status = 0 where [PONumber] IN (99)")->RowsAffected(), 0);
-    auto recordset = db().Execute(
-        "Update Schemes Set SchemeType = 18 Where SchemeID = 101; Select SchemeType From Schemes Where SchemeID = 101");
-    EXPECT_EQ(recordset->RowsAffected(), 1);
-    ASSERT_TRUE(recordset->NextRecordset());
-    EXPECT_EQ(recordset->Fields(0), platform::Value(18));
+    EXPECT_EQ(db().Execute("Select SchemeType From Schemes Where SchemeID = 101;")->Fields(0), platform::Value(17));
+    EXPECT_THROW(db().Execute("Select 1 From Items Where Product_Code = N'x'; Update Schemes Set SchemeType = 18 "
+                              "Where SchemeID = 101 --'"),
+                 platform::RuntimeError);
+    EXPECT_EQ(Rows("Select SchemeType From Schemes Where SchemeID = 101"), "17");
 }
 
 TEST_F(ValueMapping, BuiltInFunctionsGiveTheServersAnswers) {

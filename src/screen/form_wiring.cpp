@@ -14,6 +14,7 @@ void Zuro_frmDispatch_Dispatch::WireEvents() {
     WireSavingAndPrinting();
     WireSchemes();
     WireOtherGroupFreeItems();
+    WireSourceLoading();
 
     // Pages and the header's keys.
     txtref.KeyDown.Connect([this](int& key, int shift) { txtref_KeyDown(key, shift); });

@@ -35,13 +35,13 @@ std::string PlainGlobal::LookupCode(const std::string& table, const std::string&
 }
 
 // The key may come as the document's reference ("SC12"): its number is what the
-// key field holds. 0 when no such document exists.
-double PlainGlobal::LookupFieldByKey(const std::string& table, const std::string& keyField,
-                                     const std::string& keyValue) {
-    if (GetDocumentPrefixLength(keyValue) == static_cast<int>(keyValue.size())) return 0;
+// key field holds. Null when no such document exists.
+platform::Value PlainGlobal::LookupFieldByKey(const std::string& table, const std::string& keyField,
+                                              const std::string& keyValue) {
+    if (GetDocumentPrefixLength(keyValue) == static_cast<int>(keyValue.size())) return platform::Value::Null();
     double number = ParseDocumentNumber(keyValue);
-    return platform::ToNumber(LookupValue(*state_.connection, "Select " + keyField + " From " + table + " Where " +
-                                                                  keyField + " = " + SqlNumber(number)));
+    return LookupValue(*state_.connection,
+                       "Select " + keyField + " From " + table + " Where " + keyField + " = " + SqlNumber(number));
 }
 
 std::string PlainGlobal::EscapeQuotes(const std::string& text) { return EscapeSqlQuotes(text); }

@@ -30,8 +30,8 @@ public:
                            const std::string& keyValue) override;
     std::string LookupCode(const std::string& table, const std::string& keyField, const std::string& nameField,
                            const std::string& nameValue) override;
-    double LookupFieldByKey(const std::string& table, const std::string& keyField,
-                            const std::string& keyValue) override;
+    platform::Value LookupFieldByKey(const std::string& table, const std::string& keyField,
+                                     const std::string& keyValue) override;
     std::string EscapeQuotes(const std::string& text) override;
     std::string ToText(const platform::Value& value) override;
     double ToNumber(const platform::Value& value) override;

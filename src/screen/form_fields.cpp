@@ -64,9 +64,13 @@ void Zuro_frmDispatch_Dispatch::RegisterFields() {
 }
 
 bool Zuro_frmDispatch_Dispatch::SetFieldText(const std::string& name, const std::string& text) {
-    auto it = writableFields_.find(name);
-    if (it == writableFields_.end()) return false;
-    *it->second = text;
+    if (auto it = writableFields_.find(name); it != writableFields_.end()) {
+        *it->second = text;
+        return true;
+    }
+    auto number = writableNumbers_.find(name);
+    if (number == writableNumbers_.end()) return false;
+    *number->second = platform::CLng(platform::CDbl(platform::Value(text)));
     return true;
 }
 

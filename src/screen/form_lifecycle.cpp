@@ -84,6 +84,12 @@ void Zuro_frmDispatch_Dispatch::Form_KeyDown(int& KeyCode, int Shift) {
             else
                 lstSO.SetFocus();
         }
+        // Ctrl+Shift+C copies a sales confirmation into a new note.
+        if (nMode == mode::NewDispatch && (Shift & keys::CtrlShiftMask) == keys::CtrlShiftMask && KeyCode == keys::C) {
+            szCopySONumber.clear();
+            CopyCallBack();
+            return;
+        }
         host_.global.HandleFormShortcut(*this, KeyCode, Shift);
         host_.global.HandleDateShortcut(*this, KeyCode, Shift);
         if (nMode == mode::View) host_.global.HandleLookupShortcut(txtDocID, KeyCode, Shift);

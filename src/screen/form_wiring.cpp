@@ -15,6 +15,7 @@ void Zuro_frmDispatch_Dispatch::WireEvents() {
     WireSchemes();
     WireOtherGroupFreeItems();
     WireDocumentLists();
+    WireSourceLoading();
 
     // Pages and the header's keys.
     txtref.KeyDown.Connect([this](int& key, int shift) { txtref_KeyDown(key, shift); });

@@ -463,6 +463,15 @@ public:
     bool ValidateHealthCareItems(const std::string& szCustomerCode);
     bool ValidateQty(long nRows);
 
+    // ---- filling the grid from source documents and their load-time schemes -----
+    void LoadItemDetails();
+    void LoadPOItems();
+    void CopyCallBack();
+    void FindSchemes(const std::string& szItemCode, double nQuantity, platform::Date DServerDate, long& nRow);
+    void AssignScheme(long nSchemeType, platform::DTFlex& DTFlexProducts, long nRowIndex, platform::Recordset& rsSlab,
+                      const std::string& szPromptMssg, double nQty, long nHasSlabs);
+    void WireSourceLoading();
+
     // ---- call-backs of the host's lists -----------------------------------------
     void AutoListCallBack() override;
     void CustomerCallBack(const std::string& szCustomerCode, const std::string& szCustomerName) override;
@@ -539,6 +548,7 @@ private:
     std::map<std::string, platform::Control*> controls_;
     std::map<std::string, std::function<std::string()>> fields_;
     std::map<std::string, std::string*> writableFields_;
+    std::map<std::string, long*> writableNumbers_;  // written as the runtime reads a typed number
     RoutineTable routines_;
     platform::Control* activeControl_ = nullptr;
     bool loaded_ = false;

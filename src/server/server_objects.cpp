@@ -4,6 +4,7 @@
 #include "server/procedures/header_procedures.h"
 #include "server/procedures/items_procedures.h"
 #include "server/procedures/lists_procedures.h"
+#include "server/procedures/loading_procedures.h"
 #include "server/procedures/parties_procedures.h"
 #include "server/procedures/print_procedures.h"
 #include "server/procedures/save_procedures.h"
@@ -22,6 +23,7 @@ void RegisterServerObjects(ProcedureRegistry& registry) {
     RegisterSaveProcedures(registry);
     RegisterPrintProcedures(registry);
     RegisterListProcedures(registry);
+    RegisterLoadingProcedures(registry);
 }
 
 }  // namespace server

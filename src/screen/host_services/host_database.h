@@ -35,9 +35,9 @@ public:
     // The key field of the row whose name field equals the name value; empty when none.
     virtual std::string LookupCode(const std::string& table, const std::string& keyField, const std::string& nameField,
                                    const std::string& nameValue) = 0;
-    // The number the key field holds for the document the key names; 0 when none.
-    virtual double LookupFieldByKey(const std::string& table, const std::string& keyField,
-                                    const std::string& keyValue) = 0;
+    // The number the key field holds for the document the key names; Null when none.
+    virtual platform::Value LookupFieldByKey(const std::string& table, const std::string& keyField,
+                                             const std::string& keyValue) = 0;
     // The text with every single quote doubled, fit to stand in an SQL literal.
     virtual std::string EscapeQuotes(const std::string& text) = 0;
     // The value as text; Null gives empty text.

@@ -68,8 +68,8 @@ TEST_F(GlobalTest, LookupsEscapeTheirValues) {
     EXPECT_EQ(global().LookupName("Customer", "CustomerID", "Company_Name", "C9"), "");
     EXPECT_TRUE(global().LookupValue(*connection, "Select Company_Name From Customer Where 1 = 0").IsNull());
     for (const auto& [reference, found] :
-         std::vector<std::pair<std::string, long>>{{"SC12", 12}, {"12", 12}, {"SC99", 0}, {"SC", 0}})
-        EXPECT_EQ(global().LookupFieldByKey("SOAbstract", "SONumber", reference), found) << reference;
+         std::vector<std::pair<std::string, std::string>>{{"SC12", "12"}, {"12", "12"}, {"SC99", ""}, {"SC", ""}})
+        EXPECT_EQ(platform::ToText(global().LookupFieldByKey("SOAbstract", "SONumber", reference)), found) << reference;
 }
 
 // Every answer of a saving procedure is read past its row counts in the save sessions;

@@ -47,6 +47,7 @@ TEST_F(ValueMapping, ChangesReportTheirRowsAndASecondStatementIsRefusedBeforeAny
         db().Execute("Update [POAbstractReceived] set Status = Status | 128 where [PONumber] IN (1,2)")->RowsAffected(),
         2);
     EXPECT_EQ(db().Execute("Update [POAbstractReceived] set Status = 0 where [PONumber] IN (99)")->RowsAffected(), 0);
+    EXPECT_EQ(db().Execute("Select SchemeType From Schemes Where SchemeID = 101;")->Fields(0), platform::Value(17));
     EXPECT_EQ(
         testkit::Refusal([&] { db().Execute("Update Schemes Set SchemeType = 18 Where SchemeID = 101; Select 1"); }),
         "Only one statement may be run here; found more: Select 1");

@@ -1,0 +1,91 @@
+// Filling the grid from source documents: the ticked rows of the list page that a
+// script cannot tick yet, and the load-time scheme links no demo scheme reaches.
+#include <gtest/gtest.h>
+
+#include "grid/row_model/grid_columns.h"
+#include "screen_fixture.h"
+
+namespace screen_test {
+namespace {
+
+using namespace grid;
+
+class SourceLoadingTest : public ScreenTest {
+protected:
+    // A document row of the confirmation list, ticked, carrying its SONumber.
+    void TickConfirmation(const std::string& soNumber) {
+        auto& row = form->lstSO.Add();
+        row.SetSubItem(6, soNumber);
+        row.Checked = true;
+    }
+};
+
+TEST_F(SourceLoadingTest, TickedConfirmationsGiveTheirPendingLinesAndASpentOneGivesNone) {
+    auto& f = Open(screen::mode::FromSalesConfirmation);
+    f.nCustomerCategory = 2;
+    auto& header = f.lstSO.Add("Devi's Mart");  // a customer header's sub-item 6 is not read
+    header.SetSubItem(6, "4");
+    header.Checked = true;
+    TickConfirmation("9");
+    TickConfirmation("1");
+    f.LoadItemDetails();
+    EXPECT_EQ(f.szRefNumbers, "9,1");
+    EXPECT_EQ(f.DTFlexDispatch.GridRows(), 4);
+    EXPECT_EQ(Cells({colItemCode, colQuantity, colStoredQty, colSerialNo}), "FD001|10|240|1");
+    EXPECT_EQ(Cell(colItemCode, 4), "FD004");
+    EXPECT_TRUE(f.bAskOnExit);
+
+    // Confirmation 9 alone has nothing left: back to the list page, the status
+    // line then going on to the ready message.
+    auto& g = Open(screen::mode::FromSalesConfirmation);
+    TickConfirmation("9");
+    g.LoadItemDetails();
+    EXPECT_TRUE(TranscriptHas("status 1 No details to display"));
+    EXPECT_EQ(LastStatus(), "Ready");
+    EXPECT_TRUE(g.Frame2.Enabled);
+    EXPECT_FALSE(g.Frame3.Enabled);
+}
+
+TEST_F(SourceLoadingTest, ALastLineOfAnItemGoneFromTheMasterLeavesItsRowBehind) {
+    auto& f = Open(screen::mode::FromSalesConfirmation);
+    database->ExecuteNative("UPDATE SODetail SET SOLineID = 99 WHERE SOLineID = 13");  // FD099 last
+    TickConfirmation("4");
+    f.LoadItemDetails();
+    EXPECT_EQ(f.DTFlexDispatch.GridRows(), 4);
+    EXPECT_EQ(Cells({colItemCode, colItemName}), "FD001|Marie Biscuit 100g");
+    EXPECT_EQ(Cell(colItemCode, 4), "FD099");
+    EXPECT_EQ(Cell(colItemName, 4), "");
+}
+
+// Two bands of a same-item scheme that repeats, both met: two free rows, and the
+// primary row names only the last; an other-item scheme names every free row.
+TEST_F(SourceLoadingTest, SameItemSchemeLinksTheLastFreeRowAndOtherItemSchemeLinksAll) {
+    database->ExecuteNative(
+        "INSERT INTO SchemeSlabs (SlabID, SchemeID, SlabStart, SlabEnd, SlabUnit, Onward, FreeQty, FreeUnit) "
+        "VALUES (1012, 101, 200, 300, 1, 0, 24, 1);"
+        "INSERT INTO SchemeSlabs (SlabID, SchemeID, SlabStart, SlabEnd, SlabUnit, Onward, FreeQty, FreeUnit, FreeItem) "
+        "VALUES (1033, 103, 100, 99999, 1, 0, 20, 1, 'PC002');");
+    auto& f = Open(screen::mode::FromPurchaseOrder);
+    f.nCustomerCategory = 1;
+    f.szCustomerCode = "C002";
+    f.szPONumbers = "1";
+    answers.Queue("SelectScheme", {"101"});
+    f.LoadPOItems();
+    // 480 meets every 100 (40 pieces) and every 200 (48 pieces), in boxes of 24.
+    EXPECT_EQ(Cells({colItemCode, colSchemeID, colPrevQty}), "FD001|101|480");
+    EXPECT_EQ(Cell(colQuantity, 2), "1.66666666666667");
+    EXPECT_EQ(Cell(colQuantity, 3), "2");
+    EXPECT_EQ(Cell(colItemCheck), Cell(colSerialNo, 3));
+    EXPECT_NE(Cell(colSerialNo, 2), Cell(colSerialNo, 3));
+    EXPECT_EQ(Cell(colPromptMessage), "Marie: 10 pieces free on every 100");
+
+    // Soap: 144 meets 100 up (20 sachets) and band 144-287 (10), lowest start first.
+    EXPECT_EQ(Cell(colItemCode, 4), "PC001");
+    EXPECT_EQ(Cell(colItemCheck, 4), Cell(colSerialNo, 5) + "," + Cell(colSerialNo, 6));
+    EXPECT_EQ(Cell(colQuantity, 5) + "|" + Cell(colQuantity, 6), "2|1");
+    EXPECT_EQ(Cell(colPrimaryItemCode, 6), "PC001");
+    EXPECT_EQ(f.DTFlexDispatch.GridRows(), 6);
+}
+
+}  // namespace
+}  // namespace screen_test

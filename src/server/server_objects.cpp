@@ -5,6 +5,7 @@
 #include "server/procedures/items_procedures.h"
 #include "server/procedures/parties_procedures.h"
 #include "server/procedures/print_procedures.h"
+#include "server/procedures/receipts_procedures.h"
 #include "server/procedures/save_procedures.h"
 #include "server/procedures/schemes_procedures.h"
 #include "server/procedures/stock_procedures.h"
@@ -20,6 +21,7 @@ void RegisterServerObjects(ProcedureRegistry& registry) {
     RegisterStockProcedures(registry);
     RegisterSaveProcedures(registry);
     RegisterPrintProcedures(registry);
+    RegisterReceiptProcedures(registry);
 }
 
 }  // namespace server

@@ -49,8 +49,8 @@ public:
     // Opens the current cell's editor holding the cell's text (a locked column does
     // not open); 0 drops an open edit.
     void SetCellEdit(int value);
-    // Ends the open edit: the text goes into the cell and, for columns 1 to 6,
-    // AfterColUpdate is raised; a cancel there keeps the editor open with the text
+    // Ends the open edit: the text goes into the cell and, for columns 1 to
+    // LastCheckedCol, AfterColUpdate is raised; a cancel there keeps the editor open with the text
     // typed and answers false. True when no editor was open.
     bool CommitEdit();
     // The attached list's choice lands in the current cell as if typed, the edit
@@ -82,6 +82,7 @@ public:
     int VisibleCols = 0;  // the columns the user sees and reaches with the keys; 0 for all
     int EditStyle = 0;
     int LastEntryCol = 0;       // Enter past this column goes to the next row; 0 for the last column seen
+    int LastCheckedCol = 6;     // the end of an edit in columns 1 to this one raises AfterColUpdate
     bool AllowAddRows = false;  // the user's entry in the last row adds a blank row under it
     bool AllowDeleteRows = false;
     bool GridEnabled = true;

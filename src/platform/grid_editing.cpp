@@ -8,8 +8,6 @@
 namespace platform {
 namespace {
 constexpr long kInvalidArrayIndex = 381;
-// AfterColUpdate is raised for the columns the user sees and edits.
-constexpr int kFirstCheckedCol = 1, kLastCheckedCol = 6;
 }  // namespace
 
 void DTFlex::SetGridRow(int row) {
@@ -75,7 +73,7 @@ bool DTFlex::CommitEdit() {
     const unsigned stamp = ++cellStamp_;
 
     bool cancel = false;
-    if (col >= kFirstCheckedCol && col <= kLastCheckedCol) AfterColUpdate.Raise(row, col, cancel);
+    if (col >= 1 && col <= LastCheckedCol) AfterColUpdate.Raise(row, col, cancel);
     if (cancel) {
         // The refused text stays in the editor for the user to put right, unless the
         // handler has moved the current cell or opened an edit of its own meanwhile.

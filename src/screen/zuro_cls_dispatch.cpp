@@ -1,6 +1,6 @@
 #include "screen/zuro_cls_dispatch.h"
 
-#include "platform/error_handler.h"
+#include "receipts/zuro_frm_cform_dispatch.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
@@ -16,10 +16,11 @@ void Zuro_clsDispatch::InitDispatch(platform::Date& ServerDate, long& Mode, host
     dispatchForm->InitForm(ServerDate, Mode, Zuro_Global_Obj, AlrtDate);
 }
 
-void Zuro_clsDispatch::InitCForm(platform::Date& /*ServerDate*/, host_services::HostContext& /*Zuro_Global_Obj*/) {
-    // The receipt screen is not part of this build yet: the host hears so through
-    // its error log, as it would of any method the component does not have.
-    platform::RunHandled(services_.global, "Dispatch: InitCForm - ", [] { throw platform::RuntimeError(438); });
+void Zuro_clsDispatch::InitCForm(platform::Date& ServerDate, host_services::HostContext& Zuro_Global_Obj) {
+    auto form = std::make_unique<receipts::Zuro_frmCForm_Dispatch>(services_);
+    auto* receiptForm = form.get();
+    form_ = std::move(form);
+    receiptForm->InitForm(ServerDate, Zuro_Global_Obj);
 }
 
 ScreenForm* Zuro_clsDispatch::Form() { return form_.get(); }

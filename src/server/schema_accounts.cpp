@@ -8,7 +8,8 @@ namespace server::schema_part {
 std::string Accounts() {
     return R"SQL(
 -- FormsRequired: 4 a C-Form is due from the customer, 8 a D-Form.
--- FormsReceived: 32 the C-Form has come, 64 the D-Form.
+-- FormsReceived: 32 the C-Form has come, 64 the D-Form; FormsReceivedOn is when the
+-- receipt screen last changed those marks.
 -- Status: 64 cancelled (always with 128), 128 closed.
 CREATE TABLE InvoiceAbstract (
     InvoiceID INTEGER PRIMARY KEY AUTOINCREMENT,
@@ -24,6 +25,7 @@ CREATE TABLE InvoiceAbstract (
     FormsReceived INTEGER NOT NULL DEFAULT 0 CHECK ((FormsReceived | 96) = 96),
     CFormNo TEXT DEFAULT '',
     DFormNo TEXT DEFAULT '',
+    FormsReceivedOn DATETIME,
     CreationTime DATETIME NOT NULL DEFAULT CURRENT_TIMESTAMP,
     CHECK (PaymentDate IS NULL OR PaymentDate >= InvoiceDate)
 );

@@ -28,7 +28,8 @@ CREATE TABLE VoucherPrefix (
 INSERT INTO VoucherPrefix (TranID, Prefix) VALUES
     ('SALE CONFIRMATION', 'SC'),
     ('RECEIVED PO', 'PO'),
-    ('DISPATCH', 'DN');
+    ('DISPATCH', 'DN'),
+    ('INVOICE', 'IN');
 
 -- The running serials the server gives out, one row a kind of document.
 CREATE TABLE DocumentNumbers (

@@ -7,6 +7,7 @@
 #include "server/procedures/loading_procedures.h"
 #include "server/procedures/parties_procedures.h"
 #include "server/procedures/print_procedures.h"
+#include "server/procedures/receipts_procedures.h"
 #include "server/procedures/save_procedures.h"
 #include "server/procedures/schemes_procedures.h"
 #include "server/procedures/stock_procedures.h"
@@ -24,6 +25,7 @@ void RegisterServerObjects(ProcedureRegistry& registry) {
     RegisterPrintProcedures(registry);
     RegisterListProcedures(registry);
     RegisterLoadingProcedures(registry);
+    RegisterReceiptProcedures(registry);
 }
 
 }  // namespace server

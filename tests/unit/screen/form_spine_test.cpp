@@ -106,11 +106,11 @@ TEST_F(FormSpine, TheMemoButtonKeepsWhatTheUserAccepted) {
 
 TEST_F(FormSpine, AnErrorInARoutineIsLoggedWithItsPrefix) {
     Open(2);
-    // The receipt screen is not there: the class says so through the host's log.
-    platform::Date date = Today();
-    component->InitCForm(date, host->Context());
-    EXPECT_EQ(Errors(), 1);
-    EXPECT_TRUE(TranscriptHas("error 438 Dispatch: InitCForm - "));
+    const int before = Errors();
+    Scalar("ALTER TABLE Customer RENAME TO CustomerGone");
+    EXPECT_EQ(form->GetCreditLimit("C001"), 0);
+    EXPECT_EQ(Errors(), before + 1);
+    EXPECT_TRUE(TranscriptHas("Dispatch: GetCreditLimit - ")) << ErrorLines();
 }
 
 }  // namespace

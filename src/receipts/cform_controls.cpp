@@ -124,7 +124,6 @@ void Zuro_frmCForm_Dispatch::WireEvents() {
     cmdClose.Click.Connect([this] { cmdClose_Click(); });
     dtInvoice.AfterColUpdate.Connect(
         [this](int row, int col, bool& cancel) { dtInvoice_AfterColUpdate(row, col, cancel); });
-    dtInvoice.RowColChange.Connect([this](int row, int col) { dtInvoice_RowColChange(row, col); });
     dtInvoice.AtLastRow.Connect([this] { dtInvoice_AtLastRow(); });
     dtInvoice.AtFirstRow.Connect([this] { dtInvoice_AtFirstRow(); });
     lstYesNo.Click.Connect([this] { lstYesNo_Click(); });

@@ -86,15 +86,6 @@ void Zuro_frmCForm_Dispatch::dtInvoice_AfterColUpdate(int nRow, int nCol, bool& 
     });
 }
 
-// The number columns are locked for the whole grid, so a row the user moves to
-// takes the locks of its own marks.
-void Zuro_frmCForm_Dispatch::dtInvoice_RowColChange(int nRow, int /*nCol*/) {
-    Handled("dtInvoice_RowColChange", [&] {
-        LockNumberColumn(nRow, col::CForm);
-        LockNumberColumn(nRow, col::DForm);
-    });
-}
-
 void Zuro_frmCForm_Dispatch::dtInvoice_AtLastRow() {
     Handled("dtInvoice_AtLastRow", [&] { cmdSave.SetFocus(); });
 }

@@ -76,7 +76,6 @@ public:
     void cmdSave_Click();
     void cmdClose_Click();
     void dtInvoice_AfterColUpdate(int nRow, int nCol, bool& bCancel);
-    void dtInvoice_RowColChange(int nRow, int nCol);
     void dtInvoice_AtLastRow();
     void dtInvoice_AtFirstRow();
     void lstYesNo_Click();

@@ -168,7 +168,7 @@ TEST_F(GlobalTest, UnitDescriptionsTakeTheSalesUnitWhenNoneIsGiven) {
     EXPECT_EQ(global().GetUOMDescription("NOSUCH", uom), "");
 }
 
-constexpr int kEnter = 13, kBackspace = 8, kHome = 36, kEnd = 35, kUp = 38, kDown = 40;
+constexpr int kEnter = 13, kBackspace = 8;
 
 class KeyboardTest : public HostTest {
 protected:
@@ -197,22 +197,6 @@ TEST_F(KeyboardTest, TypingBetweenTwoEntersInAnAddressStartsTheRowAgain) {
     billing.SetText("1 Mill Road\nLeeds");
     EXPECT_EQ(global().AddressEnterStep(key), 0);
     EXPECT_EQ(key, kEnter) << "the Enter stays a new line in the box";
-}
-
-TEST_F(KeyboardTest, ListViewSelectionWalksWithTheKeys) {
-    platform::ListView list(form, "lstAvailable");
-    EXPECT_FALSE(global().MoveListSelection(list, kDown));
-    for (const char* batch : {"B1", "B2", "B3"}) list.Add(batch);
-    struct Step {
-        int key;
-        bool moved;
-        int selected;
-    };
-    for (const Step& s : std::vector<Step>{
-             {kDown, true, 1}, {kUp, false, 1}, {kEnd, true, 3}, {kDown, false, 3}, {kHome, true, 1}, {65, false, 1}}) {
-        EXPECT_EQ(global().MoveListSelection(list, s.key), s.moved) << s.key;
-        EXPECT_EQ(list.SelectedIndex(), s.selected) << s.key;
-    }
 }
 
 TEST_F(KeyboardTest, ComboTypeAheadGoesOnFromWhatWasTyped) {

@@ -18,22 +18,6 @@ protected:
     host_services::HostTools& tools() { return services().tools; }
 };
 
-TEST_F(DialogsTest, MessageBoxesTakeQueuedAnswersInOrderThenTheirDefaults) {
-    answers.Queue("AskMessage", {"7"});
-    answers.Queue("AskMessage", {"2"});
-    EXPECT_EQ(messages().AskMessage("Print?", YesNoQuestionSecond), 7);
-    EXPECT_EQ(messages().AskMessage("Print now?", YesNoCancelQuestionSecond), 2);
-    EXPECT_EQ(messages().AskMessage("Again?", YesNoQuestionSecond), 6);
-    EXPECT_EQ(messages().AskMessage("Again?", YesNoCancelQuestionSecond), 6);
-    // The transcript quotes a text as scripts write it; the message checks take it as shown.
-    EXPECT_EQ(messages().AskMessage("Say \"hi\"\tC:\\x", 1), 1);
-    EXPECT_EQ(Lines(), (std::vector<std::string>{"message 292 \"Print?\" -> 7", "message 291 \"Print now?\" -> 2",
-                                                 "message 292 \"Again?\" -> 6 (default)",
-                                                 "message 291 \"Again?\" -> 6 (default)",
-                                                 "message 1 \"Say \\\"hi\\\"\\tC:\\\\x\" -> 1 (default)"}));
-    EXPECT_EQ(transcript.TakeMessages().back(), "Say \"hi\"\tC:\\x");
-}
-
 TEST_F(DialogsTest, EachKindOfDialogHasItsOwnQueueAndItsDefault) {
     answers.Queue("InputPassword", {"s3cret"});
     EXPECT_EQ(messages().AskMessage("Sure?", YesNoQuestionSecond), 6) << "a password is no answer to a question";

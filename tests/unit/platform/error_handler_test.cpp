@@ -68,18 +68,6 @@ TEST(RunHandledInTransaction, RollsBackOnlyAnOpenTransactionAndClearsTheFlag) {
                        {"Q - Type mismatch", err::TypeMismatch}}));
 }
 
-TEST(RunHandledInTransaction, ReportsTheOriginalErrorWhenTheRollbackFailsToo) {
-    class BrokenRollback : public testing::FakeConnection {
-    public:
-        void RollbackTrans() override { throw RuntimeError(err::DatabaseError, "connection lost"); }
-    } connection;
-    MemoryLog log;
-    bool bInTransaction = true;
-    RunHandledInTransaction(log, "P - ", connection, bInTransaction, [] { throw RuntimeError(err::Overflow); });
-    EXPECT_FALSE(bInTransaction);
-    EXPECT_EQ(log.entries, (Entries{{"P - Overflow", err::Overflow}}));
-}
-
 TEST(ProgramFault, IsLoggedAsAnInternalErrorWhenNotStrict) {
     PolicyInForce lenient(FaultPolicy::Log);
     MemoryLog log;

@@ -129,7 +129,7 @@ TEST_F(NewNoteGrid, EnterThroughTheLockedColumnsStopsAtLastEntryCol) {
     EXPECT_EQ(Press({13, 13, 13}), (Events{"RowColChange 1 4", "RowColChange 1 5", "RowColChange 2 1"}));
 }
 
-TEST_F(NewNoteGrid, WithoutAddedRowsTheLastRowEndsInAtLastRowAndWithoutLastEntryColAtTheShownColumns) {
+TEST_F(NewNoteGrid, WithoutAddedRowsTheLastRowEndsInAtLastRow) {
     grid.AllowAddRows = false;
     grid.SetColLocked(1, true);
     grid.SetColLocked(2, true);
@@ -138,12 +138,6 @@ TEST_F(NewNoteGrid, WithoutAddedRowsTheLastRowEndsInAtLastRowAndWithoutLastEntry
     grid.UserType("3");
     EXPECT_EQ(Press({13}), (Events{"AfterColUpdate 1 6", "AtLastRow"}));
     EXPECT_EQ(grid.GridRows(), 1);
-
-    // Without LastEntryCol, Enter walks the shown columns only.
-    grid.LastEntryCol = 0;
-    grid.SetGridRows(2);
-    grid.SetGridCol(6);
-    EXPECT_EQ(Press({13}), (Events{"RowColChange 2 1"}));
 }
 
 TEST_F(NewNoteGrid, ARefusedEditStaysOpenWithTheTextTyped) {
@@ -199,15 +193,6 @@ TEST_F(NewNoteGridKeys, TypingRaisesOneChangeAndADisabledPageTakesNoKeys) {
     TakeEvents();
     grid.UserType("aZ9*/.- ");
     EXPECT_EQ(TakeEvents(), Events{"Change 6"});
-}
-
-TEST_F(NewNoteGridKeys, AKeyHandlerMayMoveInTheKeysPlace) {
-    // Right in an empty item code goes to the item name, not one further.
-    grid.KeyCode.Connect([this](int& code, int) {
-        if (code == 39 && grid.GridCol() == 1 && grid.GetCell(grid.GridRow(), 1).empty()) grid.SetGridCol(2);
-    });
-    grid.UserKey(39);
-    EXPECT_EQ(grid.GridCol(), 2);
 }
 
 TEST_F(NewNoteGridKeys, LockedColumnsTakeNoTypingAndTheUnitColumnDropsItsList) {

@@ -1,6 +1,6 @@
 // The document lists' edges a clerk's session does not reach: the customer of a
-// selected row that carries its own, a tick with no row selected, and what the list
-// procedures are sent for a customer's text.
+// selected row that carries its own, and what the list procedures are sent for a
+// customer's text.
 #include <memory>
 
 #include "platform/recording_connection.h"
@@ -38,12 +38,6 @@ TEST_F(DocumentLists, TheCustomerComesFromTheSelectedRowElseTheTickedRowsKey) {
     // The name is looked up by the ticked row's key all the same.
     form->GetDetails();
     EXPECT_EQ(form->szCustomerCode + "|" + form->szCustomerName + "|" + form->szDocNumbers, "C002|Ravi Stores|1");
-
-    // With no row selected there is none to read: the lists keep their commas.
-    list.Select(0);
-    form->GetDetails();
-    EXPECT_TRUE(TranscriptHas("error 91 Dispatch: GetDetails - ")) << ErrorLines();
-    EXPECT_EQ(form->szDocNumbers, "1,");
 }
 
 TEST_F(DocumentLists, TheCustomersTextAndThePeriodGoAsParameters) {

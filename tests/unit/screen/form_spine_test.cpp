@@ -55,6 +55,7 @@ TEST_F(FormSpine, TheGridFollowsTheMode) {
         SCOPED_TRACE("mode " + std::to_string(e.mode));
         Zuro_frmDispatch_Dispatch& f = Open(e.mode);
         EXPECT_EQ(f.DTFlexDispatch.ColLocked(grid::colItemCode), e.itemsLocked);
+        EXPECT_EQ(f.DTFlexDispatch.ColLocked(grid::colItemName), e.itemsLocked);
         EXPECT_EQ(f.DTFlexDispatch.LastEntryCol, e.lastEntryCol);
         EXPECT_EQ(f.DTFlexDispatch.AllowAddRows, e.addRows);
         EXPECT_EQ(f.DTFlexDispatch.AllowDeleteRows, e.deleteRows);

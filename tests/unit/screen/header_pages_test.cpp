@@ -65,21 +65,6 @@ TEST_F(HeaderPages, TheSecondFocusRingWalksBothWaysInConfirmationModes) {
     EXPECT_EQ(f.ActiveControl(), &f.txtref);
 }
 
-// The address boxes need a second Enter; the last one lands on the grid's price.
-TEST_F(HeaderPages, TheShippingAddressLeadsToTheGridsPrice) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
-    f.txtShippingAddress.SetFocus();
-    Key(f.txtShippingAddress, 13);
-    EXPECT_EQ(f.ActiveControl(), &f.txtShippingAddress);
-    Key(f.txtShippingAddress, 13);
-    EXPECT_EQ(f.ActiveControl(), &f.DTFlexDispatch);
-    EXPECT_EQ(f.DTFlexDispatch.GridCol(), grid::colSalePrice);
-    // The rings are only for confirmation modes.
-    f.txtref.SetFocus();
-    f.AdvanceField2(0);
-    EXPECT_EQ(f.ActiveControl(), &f.txtref);
-}
-
 TEST_F(HeaderPages, NoDocumentTypesLeavesTheSerialReference) {
     database->ExecuteNative("DELETE FROM TransactionDocNumber WHERE TransactionType = 5");
     Zuro_frmDispatch_Dispatch& f = Open(2);

@@ -1,6 +1,6 @@
 // The receipt screen: what a save writes for each row, what a failure part-way leaves,
-// the columns the two form boxes show, the number columns kept in step with their
-// marks, and the customer combos.
+// the columns the two form boxes show, and the number columns kept in step with their
+// marks.
 #include <memory>
 #include <string>
 #include <vector>
@@ -158,24 +158,6 @@ TEST_F(Receipts, ANumberColumnIsClearedAndLockedWhileItsRowsMarkSaysNo) {
     // The lock is the whole column's, as the last mark chosen left it.
     Choose(none, col::CForm, 0);
     EXPECT_FALSE(f->dtInvoice.ColLocked(col::CFormNo));
-}
-
-TEST_F(Receipts, EnterInACustomerComboPutsTheOtherOnTheSameCustomer) {
-    OpenAll();
-    f->MoveFocus(f->cboCustomer);
-    f->cboCustomer.SetText("Sundar & Sons");
-    int key = 13;
-    f->cboCustomer.KeyDown.Raise(key, 0);
-    EXPECT_EQ(f->cboCustomerID.Text(), "C014");
-    EXPECT_EQ(f->ActiveControl(), &f->cboCustomerID);
-    f->cmdRefresh_Click();
-    EXPECT_EQ(f->dtInvoice.GridRows(), 2);
-
-    f->cboCustomerID.SetText("all customers");
-    f->cboCustomerID.KeyDown.Raise(key, 0);
-    EXPECT_EQ(f->cboCustomer.ListIndex(), 0);
-    f->cmdRefresh_Click();
-    EXPECT_EQ(f->dtInvoice.GridRows(), 8);
 }
 
 }  // namespace

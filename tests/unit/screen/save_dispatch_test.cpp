@@ -78,23 +78,6 @@ protected:
     std::shared_ptr<platform::FaultInjectingConnection> faults;
 };
 
-// The note, its lines, the counter and the posting are read by the new-note session;
-// here the prices stored and the stock of the first line's batch.
-TEST_F(SaveTest, AKeyedNoteStoresItsLinePricesAndTakesItsStock) {
-    auto& f = KeyNoteForRavi();
-    const std::string marie = "SELECT SUM(Quantity) FROM Batch_Products WHERE Batch_Number = 'MB2401' AND Free = 0";
-    const double marieBefore = std::stod(Scalar(marie));
-
-    ASSERT_TRUE(f.SaveDispatch()) << ErrorLines();
-
-    EXPECT_EQ(Scalar("SELECT GROUP_CONCAT(printf('%s:%g', Product_Code, UOMPrice), ',') FROM DispatchDetail "
-                     "WHERE DispatchID = (SELECT MAX(DispatchID) FROM DispatchAbstract)"),
-              "FD001:216,FD002:156");
-    EXPECT_EQ(std::stod(Scalar(marie)), marieBefore - 48);
-    EXPECT_FALSE(f.bInTransaction);
-    EXPECT_EQ(Errors(), 0) << ErrorLines();
-}
-
 TEST_F(SaveTest, EveryCallOfTheSaveFailingLeavesTablesAndGridAsTheyWere) {
     auto& f = KeyNoteForRavi();
     const std::string tables = Tables();

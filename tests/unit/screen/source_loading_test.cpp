@@ -1,5 +1,5 @@
-// Filling the grid from source documents: the ticked rows of the list page that a
-// script cannot tick yet, and the load-time scheme links no demo scheme reaches.
+// Filling the grid from source documents: a ticked confirmation with nothing left, a
+// gone item on the last line, and the load-time scheme links no demo scheme reaches.
 #include <gtest/gtest.h>
 
 #include "grid/row_model/grid_columns.h"
@@ -20,23 +20,9 @@ protected:
     }
 };
 
-TEST_F(SourceLoadingTest, TickedConfirmationsGiveTheirPendingLinesAndASpentOneGivesNone) {
-    auto& f = Open(screen::mode::FromSalesConfirmation);
-    f.nCustomerCategory = 2;
-    auto& header = f.lstSO.Add("Devi's Mart");  // a customer header's sub-item 6 is not read
-    header.SetSubItem(6, "4");
-    header.Checked = true;
-    TickConfirmation("9");
-    TickConfirmation("1");
-    f.LoadItemDetails();
-    EXPECT_EQ(f.szRefNumbers, "9,1");
-    EXPECT_EQ(f.DTFlexDispatch.GridRows(), 4);
-    EXPECT_EQ(Cells({colItemCode, colQuantity, colStoredQty, colSerialNo}), "FD001|10|240|1");
-    EXPECT_EQ(Cell(colItemCode, 4), "FD004");
-    EXPECT_TRUE(f.bAskOnExit);
-
-    // Confirmation 9 alone has nothing left: back to the list page, the status
-    // line then going on to the ready message.
+// Confirmation 9 alone has nothing left: back to the list page, the status line then
+// going on to the ready message.
+TEST_F(SourceLoadingTest, ASpentConfirmationGivesNoLines) {
     auto& g = Open(screen::mode::FromSalesConfirmation);
     TickConfirmation("9");
     g.LoadItemDetails();

@@ -10,20 +10,6 @@
 
 namespace {
 
-using server::ExpandDemoDates;
-
-TEST(DemoDates, CountWholeDaysFromTodayAndLeaveTheRestAlone) {
-    // The time of day of "today" does not move the dates.
-    const platform::Date today = platform::DateTime(2024, 3, 1, 15, 45, 10);
-    EXPECT_EQ(ExpandDemoDates("{T-1}", today), "'2024-02-29 00:00:00'");
-    EXPECT_EQ(ExpandDemoDates("{T-61}", today), "'2023-12-31 00:00:00'");
-    EXPECT_EQ(ExpandDemoDates("{T+306}", today), "'2025-01-01 00:00:00'");
-    EXPECT_EQ(ExpandDemoDates("{T-3 16:20}", today), "'2024-02-27 16:20:00'");
-    // The plain forms amid other text are what the whole demo is written in.
-    for (const char* bad : {"{X-1}", "{T*2}", "{T} and {T+1 25:00}", "{T} then {"})
-        EXPECT_THROW(ExpandDemoDates(bad, today), std::invalid_argument) << bad;
-}
-
 TEST(WithTypeChecks, ChecksColumnLinesAndLeavesOtherTextAlone) {
     const std::string script =
         "CREATE TABLE T (\n"

@@ -15,8 +15,10 @@ void Zuro_frmDispatch_Dispatch::ListPendingDocuments() {
         if (FromConfirmation(nMode)) ListAllSOAbstract();
         if (nMode == mode::FromPurchaseOrder) ListAllPOAbstract();
     } else {
-        if (FromConfirmation(nMode)) ListSpecifiedSOAbstract(szCustomerCode);
-        if (nMode == mode::FromPurchaseOrder) ListSpecifiedPOAbstract(szCustomerCode);
+        // For one customer both lists are asked for, whatever the mode: the orders'
+        // list comes last and is the one that stands.
+        ListSpecifiedSOAbstract(szCustomerCode);
+        ListSpecifiedPOAbstract(szCustomerCode);
     }
 }
 

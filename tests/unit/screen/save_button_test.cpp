@@ -86,13 +86,27 @@ TEST_F(SaveButton, HealthCareItemsWithAPriceNeedACustomerWithADrugLicence) {
     SetCell(colSalePrice, "18");
     EXPECT_TRUE(f.ValidateHealthCareItems("C010")) << "one licence number is enough";
     EXPECT_TRUE(Messages().empty());
-    EXPECT_FALSE(f.ValidateHealthCareItems("C005"));
+}
+
+// The chain's checks of the lines, each stopping the save before anything is written.
+TEST_F(SaveButton, AHealthCareLineForACustomerWithoutADrugLicenceOrAZeroQuantityStopsTheSave) {
+    RaviNote();
+    SetCell(colQuantity, "0", 2);
+    f.cmdSave_Click();
+    EXPECT_EQ(LastStatus(), "Invalid quantity");
+    EXPECT_EQ(Focused(), "DTFlexDispatch");
+
+    SetCell(colItemCode, "HC001", 2);
+    SetCell(colSalePrice, "18", 2);
+    SetCell(colQuantity, "1", 2);
+    f.cmdSave_Click();
     EXPECT_EQ(Messages(),
               std::vector<std::string>{
                   "Customer do not have the DL Number, delete the Healthcare Items for saving the Transaction"});
+    EXPECT_EQ(Notes(), "9");
 }
 
-TEST_F(SaveButton, EveryLineNeedsAQuantityAndTheNameOfItsCode) {
+TEST_F(SaveButton, EveryLineNeedsTheNameOfItsCode) {
     auto& grid = f.DTFlexDispatch;
     grid.SetGridRows(2);
     for (auto [col, text] :
@@ -104,10 +118,6 @@ TEST_F(SaveButton, EveryLineNeedsAQuantityAndTheNameOfItsCode) {
     EXPECT_FALSE(f.ValidateQty(1));
     EXPECT_EQ(LastStatus(), "Invalid ItemCode / ItemName ");
     EXPECT_EQ(f.DTFlexDispatch.GridCol(), colItemName);
-
-    SetCell(colQuantity, "0");
-    EXPECT_FALSE(f.ValidateQty(1));
-    EXPECT_EQ(LastStatus(), "Invalid quantity");
 }
 
 // A customer code typed with a statement behind it goes to the server as the screen

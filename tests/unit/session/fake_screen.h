@@ -1,6 +1,6 @@
 // A small screen for driving the session runner without the dispatch form: a few
-// controls of each kind, a grid, fields, routines, and a log of the events the
-// runner raised, in order; and the fixture that runs scripts against it.
+// controls of each kind, a grid, routines, and the clicks the runner raised; and the
+// fixture that runs scripts against it.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -41,16 +41,12 @@ public:
     platform::TextBox txtInFrame{*this, "txtInFrame"};
     platform::TextBox txtLocked{*this, "txtLocked"};
     platform::CommandButton cmdSave{*this, "cmdSave"};
-    platform::Label lblTitle{*this, "lblTitle"};
     platform::ListView lstSO{*this, "lstSO"};
-    platform::ListBox lstUOM{*this, "lstUOM"};
     platform::DTFlex grid{*this, "DTFlexDispatch", 8};
 
     // ---- what the test arranges and reads ----------------------------------------
-    // Besides: the preview swallows Escape, txtCustomer's KeyDown swallows Enter, and
-    // txtCustomer disables itself when "off" is typed into it.
+    // Besides: txtCustomer disables itself when "off" is typed into it.
     std::vector<std::string> events;
-    std::string szDocNumbers = "SC1,SC2";
 
 private:
     void Log(std::string event) { events.push_back(std::move(event)); }

@@ -6,8 +6,6 @@
 namespace screen {
 
 void Zuro_frmDispatch_Dispatch::WireItemEntryAndBatches() {
-    if (bItemEntryWired) return;  // an event connected twice would run its handler twice
-    bItemEntryWired = true;
     DTFlexDispatch.AfterColUpdate.Connect(
         [this](int nRow, int nCol, bool& bCancel) { DTFlexDispatch_AfterColUpdate(nRow, nCol, bCancel); });
 

@@ -79,15 +79,7 @@ platform::Control* Zuro_frmCForm_Dispatch::FindControl(const std::string& name, 
     return it == controls_.end() ? nullptr : it->second;
 }
 
-void Zuro_frmCForm_Dispatch::MoveFocus(platform::Control& to) {
-    if (activeControl_ == &to) return;
-    platform::Control* previous = activeControl_;
-    activeControl_ = &to;
-    FocusMoved.Raise(to);
-    if (previous) previous->LostFocus.Raise();
-    // A LostFocus handler may have sent focus elsewhere already.
-    if (activeControl_ == &to) to.GotFocus.Raise();
-}
+void Zuro_frmCForm_Dispatch::MoveFocus(platform::Control& to) { TakeFocus(activeControl_, to); }
 
 void Zuro_frmCForm_Dispatch::RegisterFields() {
     fields_["szYesText"] = [this] { return szYesText; };

@@ -259,14 +259,6 @@ platform::Control* Zuro_frmDispatch_Dispatch::FindControl(const std::string& nam
     return it == controls_.end() ? nullptr : it->second;
 }
 
-void Zuro_frmDispatch_Dispatch::MoveFocus(platform::Control& to) {
-    if (activeControl_ == &to) return;
-    platform::Control* previous = activeControl_;
-    activeControl_ = &to;
-    FocusMoved.Raise(to);
-    if (previous) previous->LostFocus.Raise();
-    // A LostFocus handler may have sent focus elsewhere already.
-    if (activeControl_ == &to) to.GotFocus.Raise();
-}
+void Zuro_frmDispatch_Dispatch::MoveFocus(platform::Control& to) { TakeFocus(activeControl_, to); }
 
 }  // namespace screen

@@ -35,6 +35,19 @@ public:
 
     // Raised each time focus moves, with the control that took it.
     platform::Event<platform::Control&> FocusMoved;
+
+protected:
+    // Focus moves as the runtime moved it: the form notes the control that takes it,
+    // hosts hear of it, the old control loses it, and the new one gets it unless a
+    // LostFocus handler has sent focus elsewhere already.
+    void TakeFocus(platform::Control*& activeControl, platform::Control& to) {
+        if (activeControl == &to) return;
+        platform::Control* previous = activeControl;
+        activeControl = &to;
+        FocusMoved.Raise(to);
+        if (previous) previous->LostFocus.Raise();
+        if (activeControl == &to) to.GotFocus.Raise();
+    }
 };
 
 }  // namespace screen

@@ -309,7 +309,6 @@ public:
     void TakeFromBatchEntry(long nRow, long nCol);
     // "Batch: {0}, " and "Total: {0}" on the status line for the row in hand.
     void ShowBatchStockStatus(long nRow, long nCol);
-    bool bItemEntryWired = false;  // WireItemEntryAndBatches has run
     void WireItemEntryAndBatches();
 
     // ---- scheme arithmetic, grid keyboard and rows -------------------------------------

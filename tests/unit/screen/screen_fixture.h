@@ -96,7 +96,6 @@ protected:
     // wired and a retailer's prices.
     screen::Zuro_frmDispatch_Dispatch& OpenForItems(long mode = 2) {
         Open(mode);
-        form->WireItemEntryAndBatches();
         form->nCustomerCategory = 2;
         return *form;
     }

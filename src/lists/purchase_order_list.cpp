@@ -6,19 +6,12 @@
 
 namespace screen {
 
-namespace {
-using platform::adtype::Date;
-using platform::adtype::VarChar;
-}  // namespace
-
 void Zuro_frmDispatch_Dispatch::ListAllPOAbstract() {
     Handled("ListAllPOAbstract", [&] {
         auto& global = host_.global;
         lstSO.Clear();
         szPONumbers.clear();
-        const platform::Date dtFrom = global.DayStart(dtFromDate);
-        const platform::Date dtTo = global.DayEnd(dtToDate);
-        auto result = global.RunProcedure("sp_get_allpos", {{dtFrom, Date}, {dtTo, Date}});
+        auto result = lists::RunForPeriod(global, "sp_get_allpos", dtFromDate, dtToDate);
         LoadPOData(lists::Answer(result));
         result->Close();
     });
@@ -29,9 +22,7 @@ void Zuro_frmDispatch_Dispatch::ListSpecifiedPOAbstract(const std::string& szCus
         auto& global = host_.global;
         lstSO.Clear();
         szPONumbers.clear();
-        const platform::Date dtFrom = global.DayStart(dtFromDate);
-        const platform::Date dtTo = global.DayEnd(dtToDate);
-        auto result = global.RunProcedure("sp_get_pos", {{szCustomerID, VarChar}, {dtFrom, Date}, {dtTo, Date}});
+        auto result = lists::RunForPeriod(global, "sp_get_pos", dtFromDate, dtToDate, szCustomerID);
         LoadPOData(lists::Answer(result));
         result->Close();
     });

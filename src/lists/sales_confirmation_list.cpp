@@ -8,17 +8,13 @@ namespace screen {
 namespace {
 using lists::Answer;
 using lists::kHeaderColour;
-using platform::adtype::Date;
-using platform::adtype::VarChar;
 }  // namespace
 
 void Zuro_frmDispatch_Dispatch::ListAllSOAbstract() {
     Handled("ListAllSOAbstract", [&] {
         auto& global = host_.global;
         lstSO.Clear();
-        const platform::Date dtFrom = global.DayStart(dtFromDate);
-        const platform::Date dtTo = global.DayEnd(dtToDate);
-        auto result = global.RunProcedure("sp_get_allSOabstract", {{dtFrom, Date}, {dtTo, Date}});
+        auto result = lists::RunForPeriod(global, "sp_get_allSOabstract", dtFromDate, dtToDate);
         LoadData(Answer(result));
         result->Close();
     });
@@ -28,9 +24,7 @@ void Zuro_frmDispatch_Dispatch::ListSpecifiedSOAbstract(const std::string& szCus
     Handled("ListSpecifiedSOAbstract", [&] {
         auto& global = host_.global;
         lstSO.Clear();
-        const platform::Date dtFrom = global.DayStart(dtFromDate);
-        const platform::Date dtTo = global.DayEnd(dtToDate);
-        auto result = global.RunProcedure("sp_get_Sos", {{szCustomerID, VarChar}, {dtFrom, Date}, {dtTo, Date}});
+        auto result = lists::RunForPeriod(global, "sp_get_Sos", dtFromDate, dtToDate, szCustomerID);
         LoadData(Answer(result));
         result->Close();
     });

@@ -24,10 +24,16 @@ void FaultInjectingConnection::AnswerWithoutRows(std::string procedure) {
     emptyAnswers_.insert(UCase(procedure));
 }
 
+void FaultInjectingConnection::AnswerWithNothing(std::string procedure) {
+    if (procedure.empty()) throw RuntimeError(err::InvalidCall);
+    lostAnswers_.insert(UCase(procedure));
+}
+
 void FaultInjectingConnection::ClearFaults() {
     failingCalls_.clear();
     fragments_.clear();
     emptyAnswers_.clear();
+    lostAnswers_.clear();
     callCount_ = 0;
 }
 
@@ -60,6 +66,7 @@ RecordsetPtr FaultInjectingConnection::Execute(const std::string& sql) {
 RecordsetPtr FaultInjectingConnection::RunProcedure(const std::string& name, const ParameterList& parameters) {
     CountAndMaybeFail({RecordedCall::Kind::Procedure, name, parameters}, MatchesProcedure(name));
     RecordsetPtr answer = inner_->RunProcedure(name, parameters);
+    if (lostAnswers_.count(UCase(name)) > 0) return nullptr;
     if (!answer || emptyAnswers_.count(UCase(name)) == 0) return answer;
     // The same results with their fields, every row taken out.
     std::vector<ResultSet> emptied;

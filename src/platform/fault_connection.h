@@ -34,6 +34,9 @@ public:
     // The procedure of that name runs as usual, and its answer comes back with its
     // fields and no row; case is ignored.
     void AnswerWithoutRows(std::string procedure);
+    // The procedure of that name runs as usual, and its answer is lost on the way:
+    // the caller gets no recordset at all; case is ignored.
+    void AnswerWithNothing(std::string procedure);
     void ClearFaults();
     // Calls that could fail (all but rollbacks) since construction or ClearFaults.
     int CallCount() const { return callCount_; }
@@ -49,6 +52,7 @@ private:
     std::set<int> failingCalls_;
     std::vector<std::string> fragments_;
     std::set<std::string> emptyAnswers_;
+    std::set<std::string> lostAnswers_;
 };
 
 }  // namespace platform

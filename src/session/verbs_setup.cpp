@@ -60,9 +60,9 @@ void Answer(Session& session, const ScriptCommand& command) {
 
 // A server fault planted for the rest of the script: every call of a statement
 // containing the text, or of a procedure of that name, fails; or a procedure's
-// answer comes back without a row.
+// answer comes back without a row, or with no recordset at all.
 void Fault(Session& session, const ScriptCommand& command) {
-    RequireArguments(command, 2, 2, "fail \"TEXT\" or no-rows PROCEDURE");
+    RequireArguments(command, 2, 2, "fail \"TEXT\", no-rows PROCEDURE or no-result PROCEDURE");
     const std::string& kind = command.Argument(1);
     const std::string& target = command.Argument(2);
     if (target.empty()) throw ScriptError(command.line, "fault needs a statement text or a procedure name");
@@ -70,8 +70,10 @@ void Fault(Session& session, const ScriptCommand& command) {
         session.Faults(command).FailMatching(target);
     else if (kind == "no-rows")
         session.Faults(command).AnswerWithoutRows(target);
+    else if (kind == "no-result")
+        session.Faults(command).AnswerWithNothing(target);
     else
-        throw ScriptError(command.line, "fault takes fail or no-rows");
+        throw ScriptError(command.line, "fault takes fail, no-rows or no-result");
 }
 
 // Tracing a stretch of the script: `trace sql on` shows every statement and

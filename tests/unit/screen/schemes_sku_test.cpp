@@ -112,6 +112,7 @@ TEST_F(SkuSchemes, AFreeItemThatCannotBeHadStopsTheItemAndIsRetriedNextTime) {
         EXPECT_EQ(LastStatus(), c.words);
         EXPECT_EQ(form->szFailedSKU, "FS001");
         EXPECT_TRUE(form->bFreeItemMissing);
+        EXPECT_FALSE(form->bSchemeRunning);
         EXPECT_FALSE(form->bSchemesApplied);
         EXPECT_EQ(form->ActiveControl(), &form->cmdApplyScheme);
         EXPECT_EQ(FreeRowsOf("PM002").size(), 0u);

@@ -146,6 +146,26 @@ TEST_F(BatchList, InAnAmendmentAnExpiredBatchTheNoteHoldsComesBack) {
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
+TEST_F(BatchList, InAnAmendmentAnItemWithoutBatchesTakesItsLineBackOnTheEntryOfItsKind) {
+    OpenForItems(7);
+    ItemLine("PC002", "4", 1);
+    SetCell(grid::colStoredQty, "5");
+    form->dUOMRate = 1;
+    // At most a saleable and a free entry: the row's kind takes back what it held.
+    const struct {
+        const char* free;
+        int selected;
+        const char* entries;
+    } cases[] = {{"1", 2, "|1.90|2000|;|0.00|505|Yes"}, {"0", 1, "|1.90|2005|;|0.00|500|Yes"}};
+    for (const auto& c : cases) {
+        SetCell(grid::colFreeRow, c.free);
+        form->DispatchBatchDetails("PC002", "", "0", 0, 0, 1, "");
+        EXPECT_EQ(form->lstAvailable.SelectedIndex(), c.selected) << c.free;
+        EXPECT_EQ(ListEntries(), c.entries) << c.free;
+    }
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
 TEST_F(BatchList, AnItemWithoutBatchesHasItsFirstEntrySelected) {
     OpenForItems();
     ItemLine("PC002", "4", 1);

@@ -108,6 +108,8 @@ TEST_F(RowSerials, RowNumbersComeInGridOrderSkippingUnmatchedAndOutOfOrderRows) 
     EXPECT_EQ(f.DoRowOperation(4, "13,12", f.DTFlexDispatch), platform::Value("5,6"));
     EXPECT_EQ(f.DoRowOperation(4, "2,7,12", f.DTFlexDispatch), platform::Value("2,5"));
     EXPECT_EQ(f.DoRowOperation(4, "7", f.DTFlexDispatch), platform::Value(""));
+    // The headings are no row: a serial 0 finds nothing above the first row.
+    EXPECT_EQ(f.DoRowOperation(4, "0,13", f.DTFlexDispatch), platform::Value("6"));
 
     // A row out of order is passed over.
     Rows({1, 5, 3, 6});

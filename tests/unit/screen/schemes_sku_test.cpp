@@ -90,6 +90,22 @@ TEST_F(SkuSchemes, DeletingALineTakesTheFreeRowsItAloneClaimed) {
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
+TEST_F(SkuSchemes, NotesFromPurchaseOrdersAndAlertsKeepTheFocusOnTheButton) {
+    for (long mode : {screen::mode::FromPurchaseOrder, screen::mode::FromAlert}) {
+        SCOPED_TRACE(mode);
+        Open(mode);
+        form->SetFrame(2);
+        form->txtCustomer.Tag = "C005";
+        form->szCustomerCode = "C005";
+        Line("FD003", 25);
+        Choose("PM002");
+        form->cmdApplyScheme.SetFocus();
+        Click();
+        EXPECT_EQ(FreeRowsOf("PM002").size(), 1u);
+        EXPECT_EQ(form->ActiveControl(), &form->cmdApplyScheme);
+    }
+}
+
 TEST_F(SkuSchemes, AFreeItemThatCannotBeHadStopsTheItemAndIsRetriedNextTime) {
     AddScheme(903, 1, {{"FS001", 0}}, 1, 0, 1, "FD005");
     const struct {

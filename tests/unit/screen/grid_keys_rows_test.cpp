@@ -202,8 +202,10 @@ TEST_F(GridKeysRows, CheckSchemeGathersTheSpecialCategoryAndOwnFreeRows) {
 
     form->CheckScheme(1, true, grid);
     EXPECT_EQ(Rows(), "A: B:");
+    // Rows outside the lines, the headings included, are left alone.
     form->CheckScheme(0, true, grid);
     form->CheckScheme(99, true, grid);
+    EXPECT_EQ(grid.GetCell(0, colItemCheck), "Item Check");
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 

@@ -90,6 +90,18 @@ TEST_F(SkuSchemes, DeletingALineTakesTheFreeRowsItAloneClaimed) {
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
+TEST_F(SkuSchemes, ARevertKeepsTheMarksOfALineStandingLastWithoutABlankRow) {
+    const int first = Line("FD003", 5);
+    const int last = Line("FD003", 6);
+    auto& grid = form->DTFlexDispatch;
+    grid.SetGridRows(last);
+    for (int row : {first, last}) grid.SetCell(row, colSchemeID, "901");
+    form->ReverSKUScheme("FD003", std::to_string(first) + "," + std::to_string(last));
+    EXPECT_EQ(Cell(first, colSchemeID), "0");
+    EXPECT_EQ(Cell(last, colSchemeID), "901");
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
 TEST_F(SkuSchemes, NotesFromPurchaseOrdersAndAlertsKeepTheFocusOnTheButton) {
     for (long mode : {screen::mode::FromPurchaseOrder, screen::mode::FromAlert}) {
         SCOPED_TRACE(mode);

@@ -1,6 +1,7 @@
 #include "server/server_objects.h"
 
 #include "server/procedure_registry.h"
+#include "server/procedures/cancel_procedures.h"
 #include "server/procedures/header_procedures.h"
 #include "server/procedures/items_procedures.h"
 #include "server/procedures/lists_procedures.h"
@@ -26,6 +27,7 @@ void RegisterServerObjects(ProcedureRegistry& registry) {
     RegisterListProcedures(registry);
     RegisterLoadingProcedures(registry);
     RegisterReceiptProcedures(registry);
+    RegisterCancelProcedures(registry);
 }
 
 }  // namespace server

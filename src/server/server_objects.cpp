@@ -12,6 +12,7 @@
 #include "server/procedures/save_procedures.h"
 #include "server/procedures/schemes_procedures.h"
 #include "server/procedures/stock_procedures.h"
+#include "server/procedures/view_procedures.h"
 
 namespace server {
 
@@ -28,6 +29,7 @@ void RegisterServerObjects(ProcedureRegistry& registry) {
     RegisterLoadingProcedures(registry);
     RegisterReceiptProcedures(registry);
     RegisterCancelProcedures(registry);
+    RegisterViewProcedures(registry);
 }
 
 }  // namespace server

@@ -8,6 +8,7 @@ void Zuro_frmDispatch_Dispatch::WireCancellationAndAmendment() {
     using Self = Zuro_frmDispatch_Dispatch;
     RoutineBinder routines(routines_, *this);
     routines.Bind("ValidDispatch", &Self::ValidDispatch, {"nDispatchID", "bValid"});
+    routines.Bind("AmendOldDispatch", &Self::AmendOldDispatch, {});
 }
 
 }  // namespace screen

@@ -76,8 +76,8 @@ void Zuro_frmDispatch_Dispatch::cmdSave_Click() {
             }
 
             if (nMode == mode::Cancel) {
-                // The cancel path comes with the cancellation of stored notes.
-                throw platform::RuntimeError(platform::err::NotSupported);
+                CancelDispatch();
+                return;
             }
             if (nMode == mode::View) {
                 PrintViewedDispatch();

@@ -28,6 +28,9 @@ bool Zuro_frmDispatch_Dispatch::SaveDispatch() {
     auto& global = host_.global;
     bool bSaved = false;
     const char* szPrefix = nMode == mode::Amendment ? "Dispatch: AmendDispatch - " : "Dispatch: SaveDispatch - ";
+    // The copy of the old note's lines is emptied once its stock is back; a failed
+    // amendment rolls that back, so the copy must stand again for the next try.
+    const platform::VariantTable vOldDetailKept = vOldDetail;
     platform::RunHandledInTransaction(global, szPrefix, global.GetConnection(), bInTransaction, [&] {
         SaveLocals save;
 
@@ -73,9 +76,13 @@ bool Zuro_frmDispatch_Dispatch::SaveDispatch() {
             default: break;
         }
 
-        // An amendment first closes the note it replaces. Closing belongs to the
-        // amendment of stored notes, which this build does not have yet.
-        if (nMode == mode::Amendment) throw platform::RuntimeError(platform::err::NotSupported);
+        // An amendment first closes the note it replaces and puts its stock back, so
+        // that the replacement can take it again.
+        if (nMode == mode::Amendment && !AmendOldDispatch()) {
+            global.GetConnection().RollbackTrans();
+            global.ShowStatus("Unable to save Dispatch Note", 1);
+            return;
+        }
 
         if (!SaveAbstract(save)) return;
         if (!UpdateTransactionSerial(save)) return;
@@ -101,6 +108,7 @@ bool Zuro_frmDispatch_Dispatch::SaveDispatch() {
             SetFrame(1);
         bSaved = true;
     });
+    if (!bSaved && nMode == mode::Amendment) vOldDetail = vOldDetailKept;
     return bSaved;
 }
 

@@ -12,9 +12,8 @@ void Zuro_frmDispatch_Dispatch::CheckTinNumber() {
         if (nMode != mode::NewDispatch && nMode != mode::Amendment) return;
         const std::string szCustomer = platform::Trim(txtCustomer.Tag);
         if (szCustomer.empty()) return;
-        const platform::Value vTin =
-            global.LookupValue(global.GetConnection(), "select tin_number from customer where customerid = N'" +
-                                                           txtCustomer.Tag + "'");
+        const platform::Value vTin = global.LookupValue(
+            global.GetConnection(), "select tin_number from customer where customerid = N'" + txtCustomer.Tag + "'");
         if (platform::Trim(platform::ToText(vTin)).empty())
             host_.messages.AskMessage("TIN number does not exist for this customer",
                                       host_services::msgbox::Information);

@@ -466,6 +466,17 @@ public:
     long LoadolddispDate(long DispatchID);
     void WireStoredNoteLoading();
 
+    // ---- cancellation and amendment of stored notes ---------------------------------
+    // True (and bValid) while the note is open: not closed, cancelled or amended.
+    bool ValidDispatch(long nDispatchID, bool& bValid);
+    // The cancel mode's save: closes the loaded note, gives its stock back and
+    // reverses its posting. Runs under cmdSave_Click's handler.
+    void CancelDispatch();
+    void AdjustOpeningForCancel();
+    // Inside an amendment's save: closes the old note and gives its stock back.
+    bool AmendOldDispatch();
+    void WireCancellationAndAmendment();
+
     // ---- the save button ---------------------------------------------------------------
     std::int32_t nDSTypeGroup = 0;  // the group DSTypeCatMapped gives for the note's salesman
     void cmdSave_Click();

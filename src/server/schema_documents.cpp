@@ -156,6 +156,15 @@ BEGIN
     SELECT RAISE(ABORT, 'DispatchAbstract: unknown salesman or beat');
 END;
 
+-- A note is closed once. Cancelling and amending set 128 without looking at the status
+-- first, so when two clerks change the same note at once the second is refused here
+-- and its whole transaction goes back: the note's stock comes back only once.
+CREATE TRIGGER DispatchAbstract_Closed_Once BEFORE UPDATE OF Status ON DispatchAbstract
+WHEN OLD.Status & 128 = 128 AND NEW.Status & 128 = 128
+BEGIN
+    SELECT RAISE(ABORT, 'DispatchAbstract: the dispatch is closed already');
+END;
+
 -- One row a unit of a grid line: a line keyed in three units gives up to three rows.
 -- Quantity and SalePrice are in the base unit; UOM, UOMQty and UOMPrice in the unit of
 -- the row. Serial, FreeSerial and SPLCATSERIAL hold the line's place in the note and

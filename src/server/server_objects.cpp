@@ -1,6 +1,7 @@
 #include "server/server_objects.h"
 
 #include "server/procedure_registry.h"
+#include "server/procedures/cancel_procedures.h"
 #include "server/procedures/header_procedures.h"
 #include "server/procedures/items_procedures.h"
 #include "server/procedures/lists_procedures.h"
@@ -27,6 +28,7 @@ void RegisterServerObjects(ProcedureRegistry& registry) {
     RegisterListProcedures(registry);
     RegisterLoadingProcedures(registry);
     RegisterReceiptProcedures(registry);
+    RegisterCancelProcedures(registry);
     RegisterViewProcedures(registry);
 }
 

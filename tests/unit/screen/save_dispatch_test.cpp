@@ -50,31 +50,6 @@ protected:
         session::PressGridKey(*form, grid, batchEntry == 1 ? 13 : 40, 0);
     }
 
-    // Every row of every table, in key order.
-    std::string Tables() {
-        std::string text;
-        auto tables = database->ExecuteNative("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name");
-        for (const auto& table : tables.rows) {
-            const std::string name = platform::ToText(table[0]);
-            text += "[" + name + "]\n";
-            for (const auto& row : database->ExecuteNative("SELECT * FROM \"" + name + "\" ORDER BY rowid").rows) {
-                for (const auto& value : row) text += platform::ToText(value) + "|";
-                text += "\n";
-            }
-        }
-        return text;
-    }
-
-    std::string GridCells() {
-        auto& grid = form->DTFlexDispatch;
-        std::string text;
-        for (int r = 1; r <= grid.GridRows(); ++r) {
-            for (int c = 1; c <= grid.GridCols(); ++c) text += grid.GetCell(r, c) + "|";
-            text += "\n";
-        }
-        return text;
-    }
-
     std::shared_ptr<platform::FaultInjectingConnection> faults;
 };
 
@@ -87,21 +62,15 @@ TEST_F(SaveTest, EveryCallOfTheSaveFailingLeavesTablesAndGridAsTheyWere) {
     const int before = faults->CallCount();
     f.CheckCreditGates(1, 1, 2);
     const int gateCalls = faults->CallCount() - before;
-    int failedCalls = 0;
-    bool saved = false;
     std::string lastFailureStatus;
-    for (int n = 1; n < 200 && !saved; ++n) {
-        faults->FailNthCall(gateCalls + n);
-        saved = f.SaveDispatch();
-        faults->ClearFaults();
-        if (saved) break;
-        ++failedCalls;
-        lastFailureStatus = LastStatus();
-        ASSERT_TRUE(Tables() == tables) << "call " << n << " failed and left changes";
-        ASSERT_EQ(GridCells(), cells) << "call " << n << " failed and changed the grid";
-        ASSERT_FALSE(database->InTransaction()) << "call " << n;
-    }
-    ASSERT_TRUE(saved);
+    const int failedCalls = FailEachCallInTurn(
+        *faults, gateCalls, [&] { return f.SaveDispatch(); },
+        [&] {
+            lastFailureStatus = LastStatus();
+            ASSERT_TRUE(Tables() == tables) << "the failure left changes";
+            ASSERT_EQ(GridCells(), cells);
+            ASSERT_FALSE(database->InTransaction());
+        });
     // The credit gate, the abstract, the counter, each line, the posting and the commit.
     EXPECT_GE(failedCalls, 10);
     // The last call to fail was the commit: the note had been announced already.

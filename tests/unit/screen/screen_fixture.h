@@ -15,6 +15,7 @@
 #include "host/settings.h"
 #include "host/transcript.h"
 #include "platform/convert.h"
+#include "platform/fault_connection.h"
 #include "platform/value.h"
 #include "screen/zuro_cls_dispatch.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
@@ -156,6 +157,49 @@ protected:
     std::vector<std::string> Messages() { return transcript.TakeMessages(); }
     // Queues the user's answer to the next message box.
     void Answer(int button) { answers.Queue("AskMessage", {std::to_string(button)}); }
+
+    // Every row of every table, in key order, and every cell of the grid: what a
+    // failed save, cancel or amendment must leave as it found them.
+    std::string Tables() {
+        std::string text;
+        auto tables = database->ExecuteNative("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name");
+        for (const auto& table : tables.rows) {
+            const std::string name = platform::ToText(table[0]);
+            text += "[" + name + "]\n";
+            for (const auto& row : database->ExecuteNative("SELECT * FROM \"" + name + "\" ORDER BY rowid").rows) {
+                for (const auto& value : row) text += platform::ToText(value) + "|";
+                text += "\n";
+            }
+        }
+        return text;
+    }
+    std::string GridCells() const {
+        auto& grid = form->DTFlexDispatch;
+        std::string text;
+        for (int r = 1; r <= grid.GridRows(); ++r) {
+            for (int c = 1; c <= grid.GridCols(); ++c) text += grid.GetCell(r, c) + "|";
+            text += "\n";
+        }
+        return text;
+    }
+
+    // Runs the action over and over, the first time with the (skip + 1)-th database
+    // call from now failing, then the next one, until the action goes through; after
+    // each failure `unchanged` checks what must not have moved. Answers how many
+    // runs failed, or -1 when the action never went through.
+    template <class Action, class Check>
+    int FailEachCallInTurn(platform::FaultInjectingConnection& faults, int skip, Action action, Check unchanged) {
+        for (int n = 1; n < 300; ++n) {
+            faults.FailNthCall(skip + n);
+            const bool done = action();
+            faults.ClearFaults();
+            if (done) return n - 1;
+            SCOPED_TRACE("database call " + std::to_string(n) + " failed");
+            unchanged();
+            if (HasFatalFailure()) return -1;
+        }
+        return -1;
+    }
 
     std::string path;
     std::shared_ptr<server::EmbeddedConnection> database;

@@ -16,6 +16,7 @@ void Zuro_frmDispatch_Dispatch::WireEvents() {
     WireOtherGroupFreeItems();
     WireDocumentLists();
     WireSourceLoading();
+    WireCancellationAndAmendment();
 
     // Pages and the header's keys.
     txtref.KeyDown.Connect([this](int& key, int shift) { txtref_KeyDown(key, shift); });

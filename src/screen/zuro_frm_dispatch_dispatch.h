@@ -455,6 +455,11 @@ public:
     void PrintViewedDispatch();
     void WireSavingAndPrinting();
 
+    // ---- cancellation and amendment of stored notes ---------------------------------
+    // True (and bValid) while the note is open: not closed, cancelled or amended.
+    bool ValidDispatch(long nDispatchID, bool& bValid);
+    void WireCancellationAndAmendment();
+
     // ---- the save button ---------------------------------------------------------------
     std::int32_t nDSTypeGroup = 0;  // the group DSTypeCatMapped gives for the note's salesman
     void cmdSave_Click();

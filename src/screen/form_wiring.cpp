@@ -12,6 +12,7 @@ void Zuro_frmDispatch_Dispatch::WireEvents() {
     WireItemEntryAndBatches();
     WireGridKeysAndRows();
     WireSavingAndPrinting();
+    WireStoredNoteLoading();
     WireSchemes();
     WireOtherGroupFreeItems();
     WireDocumentLists();

@@ -460,6 +460,17 @@ public:
     bool ValidDispatch(long nDispatchID, bool& bValid);
     void WireCancellationAndAmendment();
 
+    // ---- loading a stored note ----------------------------------------------------------
+    // The stored note's date as it was loaded; a cancel adjusts the openings from it.
+    platform::Date dtLoadedDispatchDate{};
+    // What the loaded note took out of stock, for the amendment to give back: rows
+    // from 1, one a grid row, columns 1 to 6 holding item, batch code, quantity, sale
+    // price, track inventory and unit. Sized to one empty row before a load.
+    platform::VariantTable vOldDetail;
+    long LoadDispatchInfo(long DispatchID);
+    long LoadolddispDate(long DispatchID);
+    void WireStoredNoteLoading();
+
     // ---- the save button ---------------------------------------------------------------
     std::int32_t nDSTypeGroup = 0;  // the group DSTypeCatMapped gives for the note's salesman
     void cmdSave_Click();
@@ -526,6 +537,11 @@ private:
     // One pass of a detail row: its unit, quantity and price go to the server.
     struct DetailPass;
     bool SaveDetailPass(long nRow, const DetailPass& pass);
+
+    // The two halves of LoadDispatchInfo: the abstract fills the header, the details
+    // the grid. The header answers false when there is no stored note.
+    bool LoadStoredHeader(long DispatchID);
+    void LoadStoredRows(long DispatchID);
 
     void RegisterControls();
     void RegisterRoutines();

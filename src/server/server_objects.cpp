@@ -11,6 +11,7 @@
 #include "server/procedures/save_procedures.h"
 #include "server/procedures/schemes_procedures.h"
 #include "server/procedures/stock_procedures.h"
+#include "server/procedures/view_procedures.h"
 
 namespace server {
 
@@ -26,6 +27,7 @@ void RegisterServerObjects(ProcedureRegistry& registry) {
     RegisterListProcedures(registry);
     RegisterLoadingProcedures(registry);
     RegisterReceiptProcedures(registry);
+    RegisterViewProcedures(registry);
 }
 
 }  // namespace server

@@ -107,5 +107,15 @@ TEST_F(StoredNotesList, ContinueWithoutACustomerKeyClearsTheListAndAsks) {
     EXPECT_FALSE(form->Frame3.Enabled);
 }
 
+TEST_F(StoredNotesList, OnlyAnOrderWithItemsTheMasterDoesNotKnowShowsTheDialog) {
+    form->ShowNotFound("2");
+    EXPECT_FALSE(TranscriptHas("ShowNotFoundDialog"));
+    form->ShowNotFound("1, 2");
+    EXPECT_TRUE(
+        TranscriptHas("ShowNotFoundDialog \"The following items of the purchase order are not in the item "
+                      "master and cannot be dispatched.\" [ZZ-999] -> ok"));
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
 }  // namespace
 }  // namespace screen_test

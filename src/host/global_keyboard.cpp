@@ -110,6 +110,18 @@ void PlainGlobal::SetDropDownWidth(platform::ComboBox& combo, int width) {
     state_.appliedStyles.push_back("dropdown " + combo.FullName() + " " + std::to_string(width));
 }
 
+void PlainGlobal::SetDropDownWidth(const std::vector<platform::Control*>& controls, int width) {
+    const platform::Control* previous = nullptr;
+    for (platform::Control* control : controls) {
+        if (previous) {
+            control->Top = previous->Top;
+            control->Left = previous->Left + previous->Width + width;
+        }
+        previous = control;
+    }
+    state_.appliedStyles.push_back("row of " + std::to_string(controls.size()) + " " + std::to_string(width));
+}
+
 // The rows' text field is added in the order the table gives them; the condition
 // begins with "And " and is appended as it stands.
 void PlainGlobal::FillComboBox(const std::string& table, const std::string&, const std::string& textField,

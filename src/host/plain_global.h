@@ -81,6 +81,7 @@ public:
     void ComboFindExact(platform::ComboBox& combo) override;
     void ComboAutoComplete(platform::ComboBox& combo, int& keyAscii) override;
     void SetDropDownWidth(platform::ComboBox& combo, int width) override;
+    void SetDropDownWidth(const std::vector<platform::Control*>& controls, int width) override;
     void FillComboBox(const std::string& table, const std::string& valueField, const std::string& textField,
                       platform::ComboBox& combo, int hostOptionA, int hostOptionB,
                       const std::string& condition) override;

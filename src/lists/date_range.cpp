@@ -53,13 +53,14 @@ void Zuro_frmDispatch_Dispatch::dtToDate_KeyDown(int& KeyCode, int Shift) {
         global.ShowStatus("Loading Pending Orders...", 0);
         ListPendingDocuments();
         global.ShowStatus("Loading Pending Orders... Done", 0);
-        // The stored notes of Modes 4, 5 and 7 are listed by ListDispatch, which is
-        // not part of the screen yet; its progress lines stand.
+        bool bDocLookUp = false;
         if (nMode == mode::View || nMode == mode::Cancel) {
             global.ShowStatus("Loading Dispatch...", 0);
+            ListDispatch(bDocLookUp);
             global.ShowStatus("Loading Dispatch...done", 0);
         } else if (nMode == mode::Amendment) {
             global.ShowStatus("Loading Dispatches...", 0);
+            ListDispatch(bDocLookUp);
             global.ShowStatus("Loading Dispatches... Done", 0);
         }
         if (lstSO.Count() > 0)

@@ -34,9 +34,13 @@ void Zuro_frmDispatch_Dispatch::cmdRefresh_Click() {
         }
         global.ShowStatus(nMode == mode::Amendment ? "Loading Dispatches..." : "Loading Pending Orders...", 0);
         ListPendingDocuments();
-        // The stored notes of Modes 4, 5 and 7 are listed by ListDispatch, which is
-        // not part of the screen yet.
-        global.ShowStatus(StoredNotes(nMode) ? "Loading Dispatches... Done" : "Loading Pending Orders...Done", 0);
+        if (StoredNotes(nMode)) {
+            bool bDocLookUp = false;
+            ListDispatch(bDocLookUp);
+            global.ShowStatus("Loading Dispatches... Done", 0);
+        } else {
+            global.ShowStatus("Loading Pending Orders...Done", 0);
+        }
         lstSO.SetFocus();
     });
 }

@@ -67,8 +67,10 @@ void Zuro_frmDispatch_Dispatch::SelectConfirmation(platform::ListView& lstView, 
 void Zuro_frmDispatch_Dispatch::lstSO_ItemCheck(int Item) {
     Handled("lstSO_ItemCheck", [&] {
         if (lstSO.Item(Item).Checked) lstSO.Select(Item);
-        // The stored notes' lists of Modes 4, 5 and 7 keep a rule of their own.
-        if (nMode == mode::View || nMode == mode::Cancel || nMode == mode::Amendment) return;
+        if (nMode == mode::View || nMode == mode::Cancel || nMode == mode::Amendment) {
+            HandleSingleSelection(lstSO, Item);
+            return;
+        }
         SelectConfirmation(lstSO, Item, true, false);
         GetDetails();
     });

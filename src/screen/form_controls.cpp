@@ -82,6 +82,10 @@ Zuro_frmDispatch_Dispatch::Zuro_frmDispatch_Dispatch(host_services::HostServices
     txtCustomerID.Top = 615, txtCustomerID.Left = 1320;
     for (auto* combo : {&cboCustomer, &cboCustomerID}) combo->Container = &Frame1_1, combo->Visible = false;
     for (auto* box : {&txtDocID, &txtDocIDTo}) box->Container = &Frame1_0, box->Visible = false, box->Width = 1500;
+    // The look-up by number of Mode 4 shows these with its boxes.
+    lblFields(14).Container = &Frame1_0, lblFields(14).Visible = false, lblFields(14).Caption = "Dispatch ID:";
+    lblFields(14).Top = 240, lblFields(14).Width = 1000;
+    for (int i = 10; i < 14; ++i) lblFields(i).Visible = false;
     Frame2.Container = &Frame1_0;
     Frame2.Top = 1500, Frame2.Left = 120, Frame2.Width = 10950, Frame2.Height = 4800;
     lstSO.Container = &Frame2;
@@ -94,7 +98,7 @@ Zuro_frmDispatch_Dispatch::Zuro_frmDispatch_Dispatch(host_services::HostServices
                            {"Document Type", 0, 0}};
     for (auto* button : {&cmdGo, &cmdRefresh, &cmdContinue, &cmdClose_0})
         button->Container = &Frame1_0, button->Height = 375;
-    cmdGo.Top = 240, cmdGo.Left = 9000, cmdGo.Caption = "&Go";
+    cmdGo.Top = 240, cmdGo.Left = 9000, cmdGo.Caption = "&Go", cmdGo.Visible = false;
     cmdRefresh.Top = 6420, cmdRefresh.Left = 7200, cmdRefresh.Caption = "&Refresh";
     cmdContinue.Top = 6420, cmdContinue.Left = 8400, cmdContinue.Caption = "C&ontinue";
     cmdClose_0.Top = 6420, cmdClose_0.Left = 9600, cmdClose_0.Caption = "C&lose";

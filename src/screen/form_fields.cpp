@@ -35,6 +35,7 @@ void Zuro_frmDispatch_Dispatch::RegisterFields() {
     flag("bFlushRow", &bFlushRow);
     flag("bQtyRefused", &bQtyRefused);
     text("szCustomerName", &szCustomerName);
+    text("szDocStatusText", &szDocStatusText);
     text("szRefNumbers", &szRefNumbers);
     text("szDocIDs2", &szDocIDs2);
     text("szCopySONumber", &szCopySONumber);

@@ -102,21 +102,21 @@ void Zuro_frmDispatch_Dispatch::InitForm(platform::Date DServerDate, long nModeA
                 if (nMode == mode::View || nMode == mode::Amendment) objLink->SetHelpContextID(63);
                 if (nMode == mode::Amendment) cmdContinue.Caption = messages.GetLabel("&Amend");
                 if (nMode == mode::FromPurchaseOrder || nMode == mode::Amendment) InitAutolist();
+                if (nMode == mode::View) AlignDocLookUp();
                 InitCustAutolists();
                 InitList();
                 SetFrame(1);
                 ShowAllCustomers();
                 SelectActiveText();
-                // The stored notes of Modes 4, 5 and 7 are listed by ListDispatch, which
-                // is not part of the screen yet.
-                if (nMode == mode::Amendment) {
-                    global.ShowStatus("Loading Dispatches...", 0);
-                    global.ShowStatus("Loading Dispatches... Done", 0);
+                global.ShowStatus(nMode == mode::Amendment ? "Loading Dispatches..." : "Loading Pending Orders...", 0);
+                if (nMode == mode::FromPurchaseOrder) {
+                    ListAllPOAbstract();
                 } else {
-                    global.ShowStatus("Loading Pending Orders...", 0);
-                    if (nMode == mode::FromPurchaseOrder) ListAllPOAbstract();
-                    global.ShowStatus("Loading Pending Orders...Done", 0);
+                    bool bDocLookUp = false;
+                    ListDispatch(bDocLookUp);
                 }
+                global.ShowStatus(
+                    nMode == mode::Amendment ? "Loading Dispatches... Done" : "Loading Pending Orders...Done", 0);
                 InitDTFlexDispatch();
                 break;
             case mode::FromSalesConfirmation:

@@ -56,7 +56,7 @@ public:
     platform::DTFlex DTFlexDispatch;
     platform::CommandButton cmdContinue, cmdClose_0, cmdClose_1, cmdSave, cmdGo, cmdRefresh, cmdApplyScheme, cmdMemo,
         cmdChange;
-    static constexpr int kFieldLabels = 10;
+    static constexpr int kFieldLabels = 15;  // 10 to 13 are unused places of the array
     std::vector<std::unique_ptr<platform::Label>> lblFieldsArray;
     platform::Label lblDispDate, lblSalesman, lblBeat, lblCatGroup, lblRef, lblCustomer, lblCustomerId, lblDocReference,
         lblDocType, lblDispatchID;
@@ -120,6 +120,29 @@ public:
     // under the tag "%", else szCustomerCode's.
     void ListPendingDocuments();
     void WireDocumentLists();
+
+    // ---- the stored notes' list, the look-up by number and the Continue step ----------
+    std::string szDocStatusText;  // the status word of the note ticked on the list
+    void ListDispatch(bool& bDocLookUp);
+    void AlignDocLookUp();
+    void cmdGo_Click();
+    void txtDocID_GotFocus();
+    void txtDocIDTo_GotFocus();
+    void txtDocID_KeyDown(int& KeyCode, int Shift);
+    void txtDocIDTo_KeyDown(int& KeyCode, int Shift);
+    void HandleSingleSelection(platform::ListView& lstView, int Item);
+    void cmdContinue_Click();
+    void cmdContinue_KeyDown(int& KeyCode, int Shift);
+    void cmdClose_Click(int Index);
+    void cmdClose_LostFocus(int Index);
+    void ValidateDispatch(int nType, bool& bValid);
+    void ShowNotFound(const std::string& szPONumbers);
+    void HandleControls();
+    // The look-up's rows, or the period's, go into lstSO.
+    void FillDispatchList(platform::Recordset& rsRecords);
+    // Continue's load of the document that was ticked, by mode.
+    void LoadTickedDocument();
+    void WireStoredNotesAndContinue();
 
     // ---- pages, layout and focus -------------------------------------------------
     void SetFrame(long nScreen);

@@ -73,7 +73,8 @@ void Numbered(Session& session, const ScriptCommand& command) {
 }
 
 // A document printed since the last such check, named without the file it went
-// to: "Dispatch 10 (dialog, flag 0)" for "Dispatch 10 -> FILE (dialog, flag 0)".
+// to: "Dispatch 10 (dialog, flag 0)" for "Dispatch 10 -> FILE (dialog, flag 0)", and
+// "Dispatch 2" for a note printed straight to "Dispatch 2 -> FILE".
 void Printed(Session& session, const ScriptCommand& command) {
     RequireArguments(command, 2, 2, "printed \"TEXT\"");
     std::vector<std::string> shown;
@@ -82,6 +83,8 @@ void Printed(Session& session, const ScriptCommand& command) {
         const auto route = detail.rfind(" (");
         if (arrow != std::string::npos && route != std::string::npos && route > arrow)
             detail.erase(arrow, route - arrow);
+        else if (arrow != std::string::npos)
+            detail.erase(arrow);
         shown.push_back(detail);
     }
     const bool held = std::find(shown.begin(), shown.end(), command.Argument(2)) != shown.end();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/controls.h"
 #include "screen/host_services/hosted_form.h"
@@ -53,6 +54,9 @@ public:
     virtual void ComboAutoComplete(platform::ComboBox& combo, int& keyAscii) = 0;
     // Sets the width of the combo's drop-down list.
     virtual void SetDropDownWidth(platform::ComboBox& combo, int width) = 0;
+    // Given a list of controls, lays them in one row at the first one's top: each
+    // after the one before it, the width apart.
+    virtual void SetDropDownWidth(const std::vector<platform::Control*>& controls, int width) = 0;
     // Adds to the combo the text field of the table's rows that meet the condition,
     // which begins with "And " and is appended as it stands. The two option words are
     // the host's; the form passes 0 and 0.

@@ -8,6 +8,9 @@ void RegisterListProcedures(ProcedureRegistry& registry) {
     registry.RegisterProcedure("sp_get_Sos", &lists::CustomerPendingConfirmations);
     registry.RegisterProcedure("sp_get_allpos", &lists::AllPendingOrders);
     registry.RegisterProcedure("sp_get_pos", &lists::CustomerPendingOrders);
+    registry.RegisterProcedure("sp_list_Dispatch", &lists::StoredDispatches);
+    registry.RegisterProcedure("sp_list_Dispatch_DocLU", &lists::StoredDispatchesByNumber);
+    registry.RegisterProcedure("Sp_CheckForGroupID", &lists::CheckForGroupID);
 }
 
 }  // namespace server

@@ -220,6 +220,27 @@ WHEN NEW.Batch_Code <> 0 AND NOT EXISTS (
 BEGIN
     SELECT RAISE(ABORT, 'DispatchDetail: the batch does not hold this item');
 END;
+
+-- The batches of a note being cancelled or amended, as they stood when it was closed.
+-- The screen then gives each line's stock back to the line's first batch only (a line
+-- taken from several batches comes back to it as one row), and reads a quantity keyed
+-- in several units by its first figure; sp_adjust_opening_for_cancel_dispatch, which
+-- both run next in the same transaction, sets each batch to what it held here plus
+-- what the note took from it, and forgets these rows.
+CREATE TABLE DispatchStockReturn (
+    DispatchID INTEGER NOT NULL REFERENCES DispatchAbstract(DispatchID),
+    Batch_Code INTEGER NOT NULL REFERENCES Batch_Products(Batch_Code),
+    Quantity REAL NOT NULL,
+    PRIMARY KEY (DispatchID, Batch_Code)
+);
+CREATE TRIGGER DispatchAbstract_Stock_Return AFTER UPDATE OF Status ON DispatchAbstract
+WHEN OLD.Status & 128 = 0 AND (NEW.Status & 192 = 192 OR NEW.Status & 384 = 384)
+BEGIN
+    INSERT OR REPLACE INTO DispatchStockReturn (DispatchID, Batch_Code, Quantity)
+    SELECT NEW.DispatchID, b.Batch_Code, b.Quantity
+    FROM Batch_Products b
+    WHERE b.Batch_Code IN (SELECT Batch_Code FROM DispatchDetail WHERE DispatchID = NEW.DispatchID AND Batch_Code <> 0);
+END;
 )SQL";
 }
 

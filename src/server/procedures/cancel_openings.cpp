@@ -4,7 +4,8 @@
 // Once the note is closed and its stock is back in the batches, those openings get
 // back what its lines took from each batch: the quantity, the part of it that was
 // free stock, and its value at the batch's purchase price. Lines that took no stock
-// (Batch_Code 0: the item's category keeps none) give nothing back.
+// (Batch_Code 0: the item's category keeps none) give nothing back. The batches
+// themselves are set right first, from what they held when the note was closed.
 #include "server/procedure_arguments.h"
 #include "server/procedure_context.h"
 #include "server/procedures/cancel_procedures.h"
@@ -31,6 +32,18 @@ FROM (SELECT d.Product_Code AS Product_Code,
 WHERE OpeningDetails.Product_Code = taken.Product_Code
   AND OpeningDetails.Opening_Date >= date(?2, '+1 day'))SQL";
 
+// Each batch of the note as it stood when the note was closed, plus what the note's
+// lines took from it: the stock comes back to the very batches, whatever the screen's
+// own statements put where.
+constexpr const char* kBatchesBack = R"SQL(
+UPDATE Batch_Products
+SET Quantity = returned.Quantity + (SELECT SUM(d.Quantity) FROM DispatchDetail d
+                                    WHERE d.DispatchID = returned.DispatchID AND d.Batch_Code = returned.Batch_Code)
+FROM DispatchStockReturn AS returned
+WHERE returned.DispatchID = ?1 AND Batch_Products.Batch_Code = returned.Batch_Code)SQL";
+
+constexpr const char* kForgetReturn = "DELETE FROM DispatchStockReturn WHERE DispatchID = ?1";
+
 }  // namespace
 
 // (DispatchID, the note's day): the openings after that day take back the note's
@@ -46,6 +59,8 @@ std::vector<platform::ResultSet> AdjustOpeningForCancelDispatch(ProcedureContext
     if (dispatchDay.IsNull()) save::Refuse("The date of the dispatch is missing.");
     if ((save::RequireDispatch(context, dispatchID) & kClosed) == 0)
         save::Refuse("Dispatch " + std::to_string(dispatchID) + " is open; it still holds its stock.");
+    context.Run(kBatchesBack, {dispatchID});
+    context.Run(kForgetReturn, {dispatchID});
     context.Run(kGiveBack, {dispatchID, dispatchDay});
     return {ProcedureContext::RowCountMessage(context.RowsChanged())};
 }

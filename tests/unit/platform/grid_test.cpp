@@ -216,22 +216,6 @@ TEST_F(NewNoteGridKeys, LockedColumnsTakeNoTypingAndTheUnitColumnDropsItsList) {
     EXPECT_FALSE(lstUOM.Visible);
 }
 
-TEST_F(NewNoteGridKeys, KeysTypeAndBackspaceTakesTheLastCharacterBack) {
-    grid.UserKey('A');
-    grid.UserKey(56, 1);   // Shift+8
-    grid.UserKey('C', 2);  // Ctrl+C types nothing
-    EXPECT_EQ(grid.EditText(), "a*");
-    grid.UserKey(8);
-    EXPECT_EQ(grid.EditText(), "a");
-
-    // On a cell with no editor open, Backspace edits the cell's own text.
-    grid.SetCell(1, 2, "Café");
-    grid.SetGridCol(2);
-    grid.UserKey(8);
-    EXPECT_EQ(grid.EditText(), "Caf");
-    EXPECT_EQ(grid.GetCell(1, 2), "Café");
-}
-
 TEST_F(NewNoteGridKeys, ArrowsEndTheEditMoveAndStopAtTheEdges) {
     grid.SetGridRows(2);
     grid.UserType("A100");

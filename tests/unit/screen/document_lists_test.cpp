@@ -1,8 +1,10 @@
 // The document lists' edges a clerk's session does not reach: the customer of a
-// selected row that carries its own, and what the list procedures are sent for a
-// customer's text.
+// selected row that carries its own, what the list procedures are sent for a
+// customer's text, the stored notes' status bits no demo note carries and the prefix
+// rule of the look-up by number.
 #include <memory>
 
+#include "lists/stored_note_words.h"
 #include "platform/recording_connection.h"
 #include "screen_fixture.h"
 
@@ -56,6 +58,64 @@ TEST_F(DocumentLists, TheCustomersTextAndThePeriodGoAsParameters) {
     recorder->Clear();
     form->cmdRefresh_Click();
     EXPECT_EQ(Sent("sp_get_TradeCustomer"), "sp_get_TradeCustomer 'C005''; DELETE FROM SOAbstract; --]'\n");
+    EXPECT_EQ(Errors(), 0) << ErrorLines();
+}
+
+TEST_F(DocumentLists, StatusWordsAreAskedCancelledThenAmendedThenClosed) {
+    auto& messages = host->Services().messages;
+    auto word = [&](long status, bool invoiced) {
+        return screen::lists::DispatchStatusText(messages, status, invoiced);
+    };
+    // Cancelled wins over amended, and 64 without the closed bit is not a cancel.
+    EXPECT_EQ(word(192 | 256 | 1, false), "Cancelled");
+    EXPECT_EQ(word(64 | 2, false), "Pending");
+    EXPECT_EQ(word(64 | 2, true), "Closed");
+    EXPECT_EQ(word(385, true), "Amended");
+    EXPECT_EQ(word(256, false), "Amended");
+    // The closed bit reads as invoiced whatever the invoice flag says.
+    EXPECT_EQ(word(129, false), "Invoiced");
+    EXPECT_EQ(word(128, true), "Invoiced");
+    EXPECT_EQ(word(4, true), "Closed");
+    EXPECT_EQ(word(0, false), "Pending");
+}
+
+TEST_F(DocumentLists, ARangeSendsTheFirstEndsLeadOnlyWhenBothEndsShareIt) {
+    auto& documents = host->Global();
+    auto prefix = [&](const std::string& from, const std::string& to) {
+        return screen::lists::LookUpPrefix(documents, from, to);
+    };
+    EXPECT_EQ(prefix("dn41", "DN45"), "dn");
+    EXPECT_EQ(prefix("TN/DN/38", "tn/dn/40"), "TN/DN/");
+    EXPECT_EQ(prefix("DN41", "XX45"), "");
+    EXPECT_EQ(prefix("41", "45"), "");
+    // A plain number against a lettered end: no shared lead.
+    EXPECT_EQ(prefix("41", "DN45"), "");
+    EXPECT_EQ(prefix("DN", "DN"), "DN");
+}
+
+// No clerk's path leaves the customer's key empty on the list page; a host that
+// clears it meets the question and loses the list.
+TEST_F(DocumentLists, ContinueWithoutACustomerKeyClearsTheListAndAsks) {
+    Open(screen::mode::View);
+    form->dtFromDate.Value = platform::DateSerial(2026, 10, 1);
+    form->cmdRefresh_Click();
+    ASSERT_GT(form->lstSO.Count(), 1);
+    form->lstSO.Item(2).Checked = true;
+    form->txtCustomer.Tag.clear();
+    form->cmdContinue_Click();
+    EXPECT_TRUE(TranscriptHas("message 64 \"Select an existing customer.\"")) << ErrorLines();
+    EXPECT_EQ(form->lstSO.Count(), 0);
+    EXPECT_EQ(form->ActiveControl(), &form->txtCustomer);
+    EXPECT_FALSE(form->Frame3.Enabled);
+}
+
+TEST_F(DocumentLists, OnlyAnOrderWithItemsTheMasterDoesNotKnowShowsTheDialog) {
+    form->ShowNotFound("2");
+    EXPECT_FALSE(TranscriptHas("ShowNotFoundDialog"));
+    form->ShowNotFound("1, 2");
+    EXPECT_TRUE(
+        TranscriptHas("ShowNotFoundDialog \"The following items of the purchase order are not in the item "
+                      "master and cannot be dispatched.\" [ZZ-999] -> ok"));
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 

@@ -35,19 +35,6 @@ using SaveAbstract = SaveDatabase;
 
 // The new-note session reads the answer, the serial spent and the next one proposed;
 // here every other value the screen sent.
-TEST_F(SaveAbstract, StoresEveryValueTheScreenSent) {
-    EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract", AbstractParameters(true)).back()), "10|50");
-    // The note is stamped with the time it was made (the final 1).
-    EXPECT_EQ(
-        Text("SELECT DispatchDate, CustomerID, BillingAddress, ShippingAddress, Status, RefNumber, NewRefNumber, "
-             "OriginalReference, Memo1, Memo2, Memo3, DocReference, SalesmanID, BeatID, GroupID, UserName, "
-             "CreationTime >= datetime('now', 'localtime', '-1 minute') FROM DispatchAbstract WHERE DispatchID = 10"),
-        "D:2024-03-01 10:45:00|C005|12 Gandhi Road|Godown 3|1|1|SC101||Memo one|Memo two||TN/DN/43|1|1|1,2||1");
-    // A note of all categories has no group.
-    Call("sp_Save_DispatchAbstract", AbstractParameters(false));
-    EXPECT_EQ(Text("SELECT GroupID FROM DispatchAbstract WHERE DispatchID = 11"), "-1");
-}
-
 TEST_F(SaveAbstract, TheReplacementOfAnAmendedNoteKeepsTheOldNumber) {
     const std::string old = "45";
     EXPECT_EQ(testkit::RowsText(Call("sp_Save_DispatchAbstract_Amend", AbstractParameters(true, &old)).back()),

@@ -130,29 +130,7 @@ TEST_F(SaveDetail, AnItemThatKeepsNoStockTakesNone) {
         "PM001:0:0:3.0 FD003:0:0:600.0");
 }
 
-TEST_F(SaveDetail, StoresEveryValueTheSaveSends) {
-    Line line{.dispatchID = note,
-              .batch = "MB2402",
-              .datedPosting = 1,
-              .rowNumber = 4,
-              .freeSerial = ",6",
-              .schemeIDs = "201",
-              .splCatSchemeIDs = "301",
-              .splCatScheme = 1,
-              .splCatSerial = "7,",
-              .multiScheme = "201|2011|0|0",
-              .multiSplCatScheme = "301|3011|0|0"};
-    EXPECT_EQ(StoreLine(line, true, true), 1);
-    EXPECT_EQ(
-        NoteRows("Serial, Product_Code, Batch_Code, Batch_Number, SalePrice, Quantity, UOM, UOMQty, UOMPrice, "
-                 "Track_Batches, Track_Inventory, Price_Option, FreeItem, Free, OtherCG_Item, SchemeID, FreeSerial, "
-                 "CSchemeID, SPLCATSCHEMEID, SpecialCategoryScheme, SPLCATSERIAL, MultipleSchemeID, "
-                 "MultipleSchemeDetails, MultipleSplCategorySchemeID, MultipleSplCategorySchDetail, "
-                 "CustomerCategory, DatedPosting",
-                 note),
-        "4|FD001|2|MB2402|9r|24r|2|1r|216r|1|1|1|0|0|0|0|,6|201|301|1|7,|201|201|2011|0|0|301|301|3011|0|0|2|1");
-
-    // The short list sends the scheme as a number and the free serials as they stand.
+TEST_F(SaveDetail, TheShortListSendsTheSchemeAsANumberAndTheFreeSerialsAsTheyStand) {
     Line shortLine{.dispatchID = note, .schemeID = 17, .freeSerial = "5"};
     EXPECT_EQ(StoreLine(shortLine, false, false), 1);
     EXPECT_EQ(NoteRows("SchemeID, FreeSerial, CSchemeID, Price_Option, CustomerCategory, DatedPosting", note,

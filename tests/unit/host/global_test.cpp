@@ -157,17 +157,6 @@ TEST_F(GlobalTest, EveryOtherQuantityTextIsRefusedWithoutAnError) {
     EXPECT_EQ(transcript.ErrorCount(), 0);
 }
 
-TEST_F(GlobalTest, UnitDescriptionsTakeTheSalesUnitWhenNoneIsGiven) {
-    long uom = 0;
-    EXPECT_EQ(global().GetUOMDescription("THREE", uom), "Carton");
-    EXPECT_EQ(uom, 3);
-    uom = 2;
-    EXPECT_EQ(global().GetUOMDescription("THREE", uom), "Box");
-    EXPECT_EQ(uom, 2);
-    uom = 0;
-    EXPECT_EQ(global().GetUOMDescription("NOSUCH", uom), "");
-}
-
 constexpr int kEnter = 13, kBackspace = 8;
 
 class KeyboardTest : public HostTest {
@@ -212,13 +201,6 @@ TEST_F(KeyboardTest, ComboTypeAheadGoesOnFromWhatWasTyped) {
     EXPECT_EQ(type(kBackspace), "Beta");
     EXPECT_EQ(type('x'), "bx");
     EXPECT_EQ(names.ListIndex(), -1);
-}
-
-TEST_F(KeyboardTest, OpenFormsAreFoundByName) {
-    EXPECT_EQ(global().FindOpenForm("FRMDISPATCH", -1), &form);
-    EXPECT_EQ(global().FindOpenForm("frmCustomer", -1), nullptr);
-    services().mainForm.LeaveChildObj(form);
-    EXPECT_EQ(global().FindOpenForm("frmDispatch", -1), nullptr);
 }
 
 }  // namespace

@@ -22,18 +22,6 @@ ResultSet Customers() {
     return {{"CustomerID", "Company_Name"}, {{Value("C1"), Value("Apex Traders")}, {Value("C2"), Value::Null()}}};
 }
 
-TEST(Recordset, AnEmptyOrDefaultSetIsAtBothEnds) {
-    Recordset empty(std::vector<ResultSet>{{{"CustomerID"}, {}}});
-    EXPECT_TRUE(empty.Bof());
-    EXPECT_TRUE(empty.Eof());
-    EXPECT_EQ(ErrorNumberOf([&] { empty.Fields(0); }), err::NoCurrentRecord);
-    EXPECT_EQ(ErrorNumberOf([&] { empty.MoveNext(); }), err::NoCurrentRecord);
-
-    Recordset noResult(std::vector<ResultSet>{}), nothing;  // a call that answered with no result at all
-    for (Recordset* set : {&noResult, &nothing}) EXPECT_TRUE(set->Bof() && set->Eof());
-    EXPECT_FALSE(nothing.NextRecordset());
-}
-
 TEST(Recordset, WalksItsRowsRefusesToGoPastTheEndAndFindsFieldsByNameInAnyCase) {
     Recordset set(std::vector<ResultSet>{Customers()});
     set.MoveNext();

@@ -181,20 +181,6 @@ TEST_F(NewNoteGrid, AHandlerThatRemovesTheEditedRowLeavesTheEntryRowInPlace) {
 
 using NewNoteGridKeys = NewNoteGrid;
 
-TEST_F(NewNoteGridKeys, TypingRaisesOneChangeAndADisabledPageTakesNoKeys) {
-    page.Enabled = false;
-    grid.UserType("A");
-    grid.UserKey(13);
-    EXPECT_TRUE(codes.empty());
-    EXPECT_EQ(events, Events{});
-
-    page.Enabled = true;
-    grid.SetGridCol(6);
-    TakeEvents();
-    grid.UserType("aZ9*/.- ");
-    EXPECT_EQ(TakeEvents(), Events{"Change 6"});
-}
-
 TEST_F(NewNoteGridKeys, LockedColumnsTakeNoTypingAndTheUnitColumnDropsItsList) {
     grid.SetCell(1, 3, "BATCH-1");
     grid.SetGridCol(3);

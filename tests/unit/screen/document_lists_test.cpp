@@ -93,22 +93,6 @@ TEST_F(DocumentLists, ARangeSendsTheFirstEndsLeadOnlyWhenBothEndsShareIt) {
     EXPECT_EQ(prefix("DN", "DN"), "DN");
 }
 
-// No clerk's path leaves the customer's key empty on the list page; a host that
-// clears it meets the question and loses the list.
-TEST_F(DocumentLists, ContinueWithoutACustomerKeyClearsTheListAndAsks) {
-    Open(screen::mode::View);
-    form->dtFromDate.Value = platform::DateSerial(2026, 10, 1);
-    form->cmdRefresh_Click();
-    ASSERT_GT(form->lstSO.Count(), 1);
-    form->lstSO.Item(2).Checked = true;
-    form->txtCustomer.Tag.clear();
-    form->cmdContinue_Click();
-    EXPECT_TRUE(TranscriptHas("message 64 \"Select an existing customer.\"")) << ErrorLines();
-    EXPECT_EQ(form->lstSO.Count(), 0);
-    EXPECT_EQ(form->ActiveControl(), &form->txtCustomer);
-    EXPECT_FALSE(form->Frame3.Enabled);
-}
-
 TEST_F(DocumentLists, OnlyAnOrderWithItemsTheMasterDoesNotKnowShowsTheDialog) {
     form->ShowNotFound("2");
     EXPECT_FALSE(TranscriptHas("ShowNotFoundDialog"));

@@ -29,16 +29,6 @@ TEST_F(HeaderPages, TheEntryPageComesInAndTheListPageGoesOut) {
     EXPECT_THROW(f.txtSalesman.SetFocus(), platform::RuntimeError);
 }
 
-TEST_F(HeaderPages, PageZeroOutsideANewNoteLeavesThePagesAlone) {
-    Zuro_frmDispatch_Dispatch& f = Open(4);
-    const double listTop = f.Frame1(0).Top, entryTop = f.Frame3.Top;
-    f.txtref.Locked = false;
-    f.SetFrame(0);
-    EXPECT_EQ(f.Frame1(0).Top, listTop);
-    EXPECT_EQ(f.Frame3.Top, entryTop);
-    EXPECT_FALSE(f.txtref.Locked);
-}
-
 TEST_F(HeaderPages, ANewNoteHasItsCustomerBoxesInThePartyFrame) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     EXPECT_EQ(f.txtCustomer.Container, &f.Frame4);

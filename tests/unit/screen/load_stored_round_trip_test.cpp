@@ -13,16 +13,6 @@ using namespace grid;
 
 class LoadRoundTripTest : public ScreenTest {
 protected:
-    // Ravi Stores (C005), whose salesman and beat fill themselves.
-    screen::Zuro_frmDispatch_Dispatch& OpenForRavi() {
-        auto& f = Open(2);
-        Type(f.txtCustomer, "Ravi");
-        Pick(1);
-        Key(f.txtCustomer, 13);
-        f.szEnteredCustomerCode = "C005";
-        return f;
-    }
-
     // A line as the clerk keys it; a quantity with "*" first steps the unit round to
     // the multi-unit entry, as the slash key in the quantity cell does.
     void KeyLine(int row, const std::string& itemCode, const std::string& quantity) {

@@ -100,18 +100,5 @@ TEST_F(PartiesAutofill, TheSameSalesmanAgainMovesOnWithoutReloading) {
     EXPECT_EQ(Focused(), "txtBeat");
 }
 
-TEST_F(PartiesAutofill, DefaultsOfASourceDocument) {
-    f.SetDefaultSalesman(2);
-    f.SetDefaultBeat(4);
-    f.SetDefaultCatGroup("3,1");
-    EXPECT_EQ(Box(f.txtSalesman), "Bala Murugan|2");
-    EXPECT_EQ(f.txtBeat.Text(), "Adyar");
-    EXPECT_EQ(Box(f.txtCategory), "Personal Care,Foods|3,1");
-    f.SetDefaultCatGroup("0");
-    EXPECT_EQ(Box(f.txtCategory), f.szLblAllCategories + "|0");
-    // The programme's writes never open a list.
-    EXPECT_EQ(host->VisibleList(), nullptr);
-}
-
 }  // namespace
 }  // namespace screen_test

@@ -16,16 +16,6 @@ class SaveTest : public ScreenTest {
 protected:
     SaveTest() : faults(std::make_shared<platform::FaultInjectingConnection>(database)) { UseConnection(faults); }
 
-    // Ravi Stores (C005), whose salesman and beat fill themselves, chosen; the save's
-    // validation finds the customer's code for the typed name.
-    screen::Zuro_frmDispatch_Dispatch& OpenForRavi() {
-        auto& f = Open(2);
-        Type(f.txtCustomer, "Ravi");
-        Pick(1);
-        Key(f.txtCustomer, 13);
-        f.szEnteredCustomerCode = "C005";
-        return f;
-    }
     // Ravi's note of two lines: FD001, 2 boxes (of 24) from its first batch, MB2401;
     // FD002, 10 boxes (of 12) from the batch two steps down its stock list, CB101.
     screen::Zuro_frmDispatch_Dispatch& KeyNoteForRavi() {

@@ -88,6 +88,7 @@ TEST_F(SpecialCategory, ARefusedFreeItemStopsThePassUntilItCanBeHad) {
     Line("PC003", 1);
     Click();
     EXPECT_EQ(LastStatus(), "Free SKU is not available/Selected. You cannot save this Dispatch.");
+    EXPECT_EQ(LastStatusKind(), 1);
     EXPECT_TRUE(form->bSplCatRefused);
     EXPECT_FALSE(form->bSchemesApplied);
     EXPECT_EQ(form->ActiveControl(), &form->cmdSave);

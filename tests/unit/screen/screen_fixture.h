@@ -70,6 +70,7 @@ protected:
     }
     int Errors() const { return transcript.ErrorCount(); }
     std::string LastStatus() const { return transcript.LastStatus() ? transcript.LastStatus()->text : ""; }
+    int LastStatusKind() const { return transcript.LastStatus() ? transcript.LastStatus()->flag : -1; }
     bool TranscriptHas(const std::string& fragment) const {
         for (const auto& line : transcript.Lines())
             if (line.find(fragment) != std::string::npos) return true;

@@ -122,6 +122,15 @@ TEST_F(PartyRefusals, ACustomerWithoutTinIsWarnedOfInANewNote) {
     Pick(f.txtCustomer, "Priya Traders", "C012");
     f.CheckTinNumber();
     EXPECT_TRUE(Messages().empty());
+
+    // A list page's customer is a filter: only a note keyed or amended is warned of.
+    settings.Set("GetTinCheckEnabled", "true");
+    for (long mode : {screen::mode::FromSalesConfirmation, screen::mode::Amendment}) {
+        auto& g = Open(mode);
+        g.txtCustomer.Tag = "C012";
+        g.CheckTinNumber();
+        EXPECT_EQ(Messages().size(), mode == screen::mode::Amendment ? 1u : 0u) << mode;
+    }
 }
 
 }  // namespace

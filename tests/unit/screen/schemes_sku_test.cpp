@@ -90,12 +90,15 @@ TEST_F(SkuSchemes, DeletingALineTakesTheFreeRowsItAloneClaimed) {
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
-TEST_F(SkuSchemes, ARevertKeepsTheMarksOfALineStandingLastWithoutABlankRow) {
+TEST_F(SkuSchemes, AGoneFreeRowIsMissedAndARevertKeepsTheMarksOfALastLineWithoutABlankRow) {
     const int first = Line("FD003", 5);
     const int last = Line("FD003", 6);
     auto& grid = form->DTFlexDispatch;
     grid.SetGridRows(last);
     for (int row : {first, last}) grid.SetCell(row, colSchemeID, "901");
+    // A link list as the button writes it, with its lead comma, to a row that has gone.
+    grid.SetCell(first, colItemCheck, ",9");
+    EXPECT_FALSE(form->FreeItemExits("FD003", std::to_string(first)));
     form->ReverSKUScheme("FD003", std::to_string(first) + "," + std::to_string(last));
     EXPECT_EQ(Cell(first, colSchemeID), "0");
     EXPECT_EQ(Cell(last, colSchemeID), "901");

@@ -43,6 +43,16 @@ protected:
     std::shared_ptr<platform::FaultInjectingConnection> faults;
 };
 
+TEST_F(SaveTest, APostingTheJournalRefusesShowsItsReasonAsANoteAndTakesTheNoteBack) {
+    auto& f = KeyNoteForRavi();
+    const std::string tables = Tables();
+    faults->FailMatching("Insert Into JournalPostings");
+    EXPECT_FALSE(f.SaveDispatch());
+    EXPECT_NE(LastStatus().find("Insert Into JournalPostings"), std::string::npos) << LastStatus();
+    EXPECT_EQ(LastStatusKind(), 0);
+    EXPECT_TRUE(Tables() == tables);
+}
+
 TEST_F(SaveTest, EveryCallOfTheSaveFailingLeavesTablesAndGridAsTheyWere) {
     auto& f = KeyNoteForRavi();
     const std::string tables = Tables();

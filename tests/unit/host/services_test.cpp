@@ -35,15 +35,6 @@ TEST_F(DialogsTest, EachKindOfDialogHasItsOwnQueueAndItsDefault) {
     EXPECT_NE(Lines().back().find("-> true (default)"), std::string::npos);
 }
 
-TEST_F(DialogsTest, ToolDialogsSayWhatTheyWereGivenAndAMemoOnViewStaysAsItWas) {
-    std::string m1 = "a", m2 = "b", m3 = "c";
-    EXPECT_FALSE(tools().ShowMemoDialog(m1, m2, m3, false, 2));
-    answers.Queue("ShowMemoDialog", {"x", "y", "z", "ok"});
-    EXPECT_TRUE(tools().ShowMemoDialog(m1, m2, m3, true, 2));
-    EXPECT_EQ(m1 + m2 + m3, "abc") << "a note on view keeps its memos";
-    EXPECT_EQ(Lines().back(), "ShowMemoDialog \"a\" \"b\" \"c\" read-only -> ok");
-}
-
 TEST_F(DialogsTest, AnswersNoDialogCouldGiveAreRefused) {
     const std::vector<std::pair<std::string, std::vector<std::string>>> wrong = {
         {"AskMessage", {"9"}},

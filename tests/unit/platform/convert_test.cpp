@@ -1,7 +1,6 @@
 // The runtime's conversions: dates, numbers and text, rounding, and Format.
 #include <gtest/gtest.h>
 
-#include <array>
 #include <limits>
 #include <string>
 #include <vector>
@@ -14,8 +13,6 @@ namespace {
 
 using testing::ErrorNumberOf;
 using Pieces = std::vector<std::string>;
-
-constexpr double kSecond = 1.0 / 86400.0;
 
 TEST(DateSerial, CountsDaysFromTheThirtiethOfDecember1899) {
     const struct {

@@ -78,19 +78,6 @@ protected:
 // The grid as a table of text: its shape, cells and headings, the blank row, and
 // the refusal of an address outside it.
 
-TEST_F(NewNoteGrid, CellsOutsideTheGridAreError381) {
-    EXPECT_EQ(platform::DTFlex(scope, "dtInvoice", 11).GridRows(), 1);  // a new grid offers one blank row
-    grid.SetGridRows(2);
-    for (auto [row, col] : {std::pair{-1, 1}, {3, 1}, {1, -1}, {1, kCols + 1}}) {
-        EXPECT_EQ(ErrorNumberOf([&] { (void)grid.GetCell(row, col); }), 381) << row << "," << col;
-        EXPECT_EQ(ErrorNumberOf([&] { grid.SetCell(row, col, "x"); }), 381) << row << "," << col;
-    }
-    EXPECT_EQ(ErrorNumberOf([&] { grid.RemoveRow(0); }), 381);
-    EXPECT_EQ(ErrorNumberOf([&] { grid.SetColHeading(kCols + 1, "x"); }), 381);
-    EXPECT_EQ(ErrorNumberOf([&] { grid.SetGridRows(-1); }), platform::err::InvalidPropertyValue);
-    EXPECT_EQ(grid.GridRows(), 2);
-}
-
 TEST_F(NewNoteGrid, RowNumbersAreNoEntriesAndRowsComeAndGoFromTheEnd) {
     grid.SetCell(1, 0, "1");
     EXPECT_TRUE(grid.IsBlankRow(1));

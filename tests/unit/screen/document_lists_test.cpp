@@ -1,7 +1,7 @@
 // The document lists' edges a clerk's session does not reach: the customer of a
 // selected row that carries its own, what the list procedures are sent for a
-// customer's text, the stored notes' status bits no demo note carries and the prefix
-// rule of the look-up by number.
+// customer's text, the stored notes' status bits no demo note carries, and the
+// not-found dialog of a purchase order.
 #include <memory>
 
 #include "lists/stored_note_words.h"
@@ -66,31 +66,14 @@ TEST_F(DocumentLists, StatusWordsAreAskedCancelledThenAmendedThenClosed) {
     auto word = [&](long status, bool invoiced) {
         return screen::lists::DispatchStatusText(messages, status, invoiced);
     };
-    // Cancelled wins over amended, and 64 without the closed bit is not a cancel.
+    // Cancelled wins over amended.
     EXPECT_EQ(word(192 | 256 | 1, false), "Cancelled");
-    EXPECT_EQ(word(64 | 2, false), "Pending");
-    EXPECT_EQ(word(64 | 2, true), "Closed");
     EXPECT_EQ(word(385, true), "Amended");
-    EXPECT_EQ(word(256, false), "Amended");
     // The closed bit reads as invoiced whatever the invoice flag says.
     EXPECT_EQ(word(129, false), "Invoiced");
     EXPECT_EQ(word(128, true), "Invoiced");
     EXPECT_EQ(word(4, true), "Closed");
     EXPECT_EQ(word(0, false), "Pending");
-}
-
-TEST_F(DocumentLists, ARangeSendsTheFirstEndsLeadOnlyWhenBothEndsShareIt) {
-    auto& documents = host->Global();
-    auto prefix = [&](const std::string& from, const std::string& to) {
-        return screen::lists::LookUpPrefix(documents, from, to);
-    };
-    EXPECT_EQ(prefix("dn41", "DN45"), "dn");
-    EXPECT_EQ(prefix("TN/DN/38", "tn/dn/40"), "TN/DN/");
-    EXPECT_EQ(prefix("DN41", "XX45"), "");
-    EXPECT_EQ(prefix("41", "45"), "");
-    // A plain number against a lettered end: no shared lead.
-    EXPECT_EQ(prefix("41", "DN45"), "");
-    EXPECT_EQ(prefix("DN", "DN"), "DN");
 }
 
 TEST_F(DocumentLists, OnlyAnOrderWithItemsTheMasterDoesNotKnowShowsTheDialog) {

@@ -13,22 +13,6 @@ using namespace grid;
 
 class LoadRoundTripTest : public ScreenTest {
 protected:
-    // A line as the clerk keys it; a quantity with "*" first steps the unit round to
-    // the multi-unit entry, as the slash key in the quantity cell does.
-    void KeyLine(int row, const std::string& itemCode, const std::string& quantity) {
-        auto& grid = form->DTFlexDispatch;
-        form->MoveFocus(grid);
-        grid.UserGoto(row, 1);
-        grid.UserType(itemCode);
-        session::PressGridKey(*form, grid, 13, 0);
-        grid.UserGoto(row, 5);
-        grid.UserGoto(row, 6);
-        for (int n = 0; quantity.find('*') != std::string::npos && Cell(colUOMID, row) != "0" && n < 4; ++n)
-            form->CycleUOM();
-        grid.UserType(quantity);
-        session::PressGridKey(*form, grid, 13, 0);
-    }
-
     // The note's rows, every column; the last row is the blank one offered for entry.
     std::vector<std::vector<std::string>> Rows(int nRows) const {
         std::vector<std::vector<std::string>> rows;

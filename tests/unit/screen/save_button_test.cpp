@@ -25,13 +25,6 @@ protected:
         KeyLine(2, "FD001", "2");
         Numbered();
     }
-    void KeyLine(int row, const std::string& item, const std::string& quantity) {
-        for (auto [col, text] : {std::pair{colItemCode, item}, std::pair{colQuantity, quantity}}) {
-            f.DTFlexDispatch.UserGoto(row, col);
-            f.DTFlexDispatch.UserType(text);
-            f.DTFlexDispatch.UserKey(13);
-        }
-    }
     std::string Notes() { return Scalar("SELECT Count(*) FROM DispatchAbstract"); }
 };
 

@@ -25,21 +25,6 @@ protected:
         return f;
     }
 
-    // The row first takes the entry the batch list stands on; coming back to its
-    // quantity puts the list on the first saleable entry, and the key that ends the
-    // quantity takes it (Enter) or the one below it (Down).
-    void KeyLine(int row, const std::string& itemCode, const std::string& quantity, int batchEntry = 1) {
-        auto& grid = form->DTFlexDispatch;
-        form->MoveFocus(grid);
-        grid.UserGoto(row, 1);
-        grid.UserType(itemCode);
-        session::PressGridKey(*form, grid, 13, 0);
-        grid.UserGoto(row, 5);
-        grid.UserGoto(row, 6);
-        grid.UserType(quantity);
-        session::PressGridKey(*form, grid, batchEntry == 1 ? 13 : 40, 0);
-    }
-
     std::shared_ptr<platform::FaultInjectingConnection> faults;
 };
 

@@ -20,6 +20,7 @@
 #include "screen/zuro_cls_dispatch.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 #include "server/embedded_connection.h"
+#include "session/key_press.h"
 
 namespace screen_test {
 
@@ -105,6 +106,25 @@ protected:
         Key(f.txtCustomer, 13);
         f.szEnteredCustomerCode = "C005";
         return f;
+    }
+    // A line as the clerk keys it: the item, Enter, then the quantity. A quantity with
+    // "*" first steps the unit round to the multi-unit entry, as the slash key does. The
+    // row takes the entry the batch list stands on; coming back to its quantity puts the
+    // list on the first saleable entry, and the key that ends the quantity takes it
+    // (Enter, batch entry 1) or the one below it (Down).
+    void KeyLine(int row, const std::string& itemCode, const std::string& quantity, int batchEntry = 1) {
+        auto& grid = form->DTFlexDispatch;
+        form->MoveFocus(grid);
+        grid.UserGoto(row, 1);
+        grid.UserType(itemCode);
+        session::PressGridKey(*form, grid, 13, 0);
+        grid.UserGoto(row, 5);
+        grid.UserGoto(row, 6);
+        for (int n = 0; quantity.find('*') != std::string::npos && grid.GetCell(row, grid::colUOMID) != "0" && n < 4;
+             ++n)
+            form->CycleUOM();
+        grid.UserType(quantity);
+        session::PressGridKey(*form, grid, batchEntry == 1 ? 13 : 40, 0);
     }
     screen::Zuro_frmDispatch_Dispatch& OpenForItems(long mode = 2) {
         Open(mode);

@@ -56,7 +56,7 @@ void Zuro_frmDispatch_Dispatch::FillDispatchList(platform::Recordset& rsRecords)
     if (rsRecords.Eof()) {
         lstSO.View = 1;
         lstSO.CheckBoxes = false;
-        lstSO.Add(messages.GetLabel("No Dispatches were found during the specified period."));
+        lstSO.Add(messages.GetLabel("No Dispatches were found during the chosen period."));
         return;
     }
     lstSO.View = 3;

@@ -34,7 +34,7 @@ void Zuro_frmDispatch_Dispatch::LoadPOData(platform::Recordset& rsRecords) {
         if (rsRecords.Eof()) {
             lstSO.View = 1;
             lstSO.CheckBoxes = false;
-            lstSO.Add(host_.messages.GetLabel("No purchase orders were received during the specified period"));
+            lstSO.Add(host_.messages.GetLabel("No purchase orders were received during the chosen period"));
             return;
         }
         lstSO.View = 3;

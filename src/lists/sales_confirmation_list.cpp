@@ -37,7 +37,7 @@ void Zuro_frmDispatch_Dispatch::LoadData(platform::Recordset& rsRecords) {
             // The one line of an empty period cannot be ticked.
             lstSO.View = 1;
             lstSO.CheckBoxes = false;
-            lstSO.Add(host_.messages.GetLabel("No pending Sales confirmation were found during the specified period"));
+            lstSO.Add(host_.messages.GetLabel("No pending Sales confirmation were found during the chosen period"));
             return;
         }
         lstSO.View = 3;

@@ -2,6 +2,7 @@
 // it names are still switched on, and which items of a purchase order the item master
 // does not know.
 #include "platform/convert.h"
+#include "screen/procedure_results.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
@@ -15,7 +16,7 @@ void Zuro_frmDispatch_Dispatch::ValidateDispatch(int nType, bool& bValid) {
         auto result = global.NextRecordset(global.RunProcedure(
             "Sp_CheckForGroupID",
             {{static_cast<long>(nType), Integer}, {global.ToNumber(platform::Value(szDocNumbers)), Integer}}));
-        if (!result || !result->IsOpen() || result->Eof()) return;
+        if (!HasRecordset(result) || result->Eof()) return;
         bValid = global.ToNumber(result->Fields(0)) != 0;
         result->Close();
     });
@@ -31,7 +32,7 @@ void Zuro_frmDispatch_Dispatch::ShowNotFound(const std::string& szPONumbers) {
             ") AND PODetailReceived.Product_Code not in "
             "(select Alias from items)");
         tools.SetNotFoundRecords(result);
-        if (result && result->IsOpen() && !result->Eof()) {
+        if (HasRecordset(result) && !result->Eof()) {
             // The dialog's heading is message 1, read straight from the messages' table.
             auto& global = host_.global;
             tools.ShowNotFoundDialog(global.ToText(global.LookupValue(

@@ -18,7 +18,6 @@ constexpr long kNoFlag = 0;
 void Zuro_frmDispatch_Dispatch::ListDispatch(bool& bDocLookUp) {
     Handled("ListDispatch", [&] {
         auto& global = host_.global;
-        using platform::adtype::Date;
         using platform::adtype::Integer;
         using platform::adtype::VarChar;
         platform::RecordsetPtr result;
@@ -32,10 +31,8 @@ void Zuro_frmDispatch_Dispatch::ListDispatch(bool& bDocLookUp) {
                 txtCustomer.Tag == "%"
                     ? std::string("%")
                     : global.LookupCode("Customer", "CustomerID", "Company_Name", txtCustomer.Text());
-            result = global.NextRecordset(global.RunProcedure("sp_list_Dispatch", {{szCustomer, VarChar},
-                                                                                   {global.DayStart(dtFromDate), Date},
-                                                                                   {global.DayEnd(dtToDate), Date},
-                                                                                   {kNoFlag, Integer}}));
+            result = global.NextRecordset(lists::RunForPeriod(global, "sp_list_Dispatch", dtFromDate, dtToDate,
+                                                              szCustomer, {{kNoFlag, Integer}}));
         } else {
             const double nFrom = global.ParseDocumentNumber(txtDocID.Text());
             const double nTo = global.ParseDocumentNumber(txtDocIDTo.Text());

@@ -28,11 +28,8 @@ bool Zuro_frmDispatch_Dispatch::AmendOldDispatch() {
             const std::string szItem = global.ToText(vOldDetail.At(i, kOldItemCode));
             const long nBatchCode = static_cast<long>(platform::Int(global.ToNumber(vOldDetail.At(i, kOldBatchCode))));
             const double fQty = global.ToNumber(vOldDetail.At(i, kOldQuantity));
-            const double fRate = global.ConvertToBaseUOM(
-                szItem, static_cast<long>(platform::Int(global.ToNumber(vOldDetail.At(i, kOldUOMID)))));
-            connection.Execute("UPDATE Batch_Products SET Quantity = Quantity + " +
-                               platform::NumberToText(fRate * fQty) +
-                               " WHERE Batch_Code = " + std::to_string(nBatchCode));
+            const long nUOM = static_cast<long>(platform::Int(global.ToNumber(vOldDetail.At(i, kOldUOMID))));
+            GiveStockBack(szItem, nBatchCode, fQty, nUOM);
         }
 
         AdjustOpeningForCancel();

@@ -57,9 +57,7 @@ void Zuro_frmDispatch_Dispatch::CancelDispatch() {
         const double fQty = global.ToNumber(platform::Value(grid.GetCell(r, grid::colQuantity)));
         const long nUOM =
             static_cast<long>(platform::Int(global.ToNumber(platform::Value(grid.GetCell(r, grid::colUOMID)))));
-        const double fBase = global.ConvertToBaseUOM(szItem, nUOM) * fQty;
-        connection.Execute("UPDATE Batch_Products SET Quantity = Quantity + " + platform::NumberToText(fBase) +
-                           " WHERE Batch_Code = " + std::to_string(nBatchCode));
+        GiveStockBack(szItem, nBatchCode, fQty, nUOM);
     }
 
     AdjustOpeningForCancel();
@@ -84,6 +82,14 @@ void Zuro_frmDispatch_Dispatch::CancelDispatch() {
     SetTabStop(1);
     bAskOnExit = false;
     global.ShowStatus(messages.FormatMessage("DispatchID = {0} has been Cancelled", {szDefaultDocReference}), 0);
+}
+
+// Used by cancelling and by amending, inside their transactions.
+void Zuro_frmDispatch_Dispatch::GiveStockBack(const std::string& szItem, long nBatchCode, double fQty, long nUOM) {
+    auto& global = host_.global;
+    const double fBase = global.ConvertToBaseUOM(szItem, nUOM) * fQty;
+    global.GetConnection().Execute("UPDATE Batch_Products SET Quantity = Quantity + " + platform::NumberToText(fBase) +
+                                   " WHERE Batch_Code = " + std::to_string(nBatchCode));
 }
 
 // Used by cancelling and by amending, inside their transactions; the server's

@@ -18,7 +18,7 @@ long Zuro_frmDispatch_Dispatch::LoadolddispDate(long DispatchID) {
         } else {
             // No such note: day 1 of the calendar, which no scheme reaches back to.
             dtOldDispatchDate = platform::Date{1};
-            szOldCreationDate = "1";
+            szOldCreationDate.assign(1, '1');  // the day number 1 as text
         }
         if (HasRecordset(rs)) rs->Close();
     });

@@ -496,6 +496,9 @@ public:
     // reverses its posting. Runs under cmdSave_Click's handler.
     void CancelDispatch();
     void AdjustOpeningForCancel();
+    // Puts a line's stock back into its batch: the quantity in the line's unit, turned
+    // into base units.
+    void GiveStockBack(const std::string& szItem, long nBatchCode, double fQty, long nUOM);
     // Inside an amendment's save: closes the old note and gives its stock back.
     bool AmendOldDispatch();
     void WireCancellationAndAmendment();

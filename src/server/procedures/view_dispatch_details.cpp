@@ -7,6 +7,7 @@
 // row named; a row whose stock came from batches of different numbers named none.
 // Batch code, expiry and PKD are those of the first batch the row took.
 #include <map>
+#include <optional>
 
 #include "platform/convert.h"
 #include "server/procedure_arguments.h"
@@ -165,9 +166,11 @@ std::vector<platform::ResultSet> DispatchDetails(ProcedureContext& context, cons
                       "SpecialCategoryScheme",
                       "SPLCATSERIAL",
                       "MultipleSplCategorySchDetail"};
+    std::optional<platform::Value> multipleUnit;  // read once, for the first row that needs it
     for (const GridRow& row : rows) {
         const auto& first = row.First();
         const bool severalUnits = row.KeyedInSeveralUnits();
+        if (severalUnits && !multipleUnit) multipleUnit = platform::Value(MultipleUnitText(context));
         // A row keyed in several units is priced by its base unit.
         const platform::Value unitQuantity = severalUnits ? platform::Value(row.UnitExpression())
                                                           : platform::Value(platform::NumberToText(row.Sum(kUnitQty)));
@@ -176,7 +179,7 @@ std::vector<platform::ResultSet> DispatchDetails(ProcedureContext& context, cons
                                platform::Value(row.Sum(kQuantity)),
                                platform::Value(row.BatchNamed()),
                                first[kSalePrice],
-                               severalUnits ? platform::Value(MultipleUnitText(context)) : first[kUnitText],
+                               severalUnits ? *multipleUnit : first[kUnitText],
                                first[kBatchCode],
                                first[kTrackInventory],
                                first[kPriceOption],

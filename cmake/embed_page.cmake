@@ -1,0 +1,61 @@
+# The clerk's page compiled into the program: every file of src/web/page becomes a
+# string in a generated source that defines web::FindPageFile (src/web/page_files.h).
+# The source is made again when a page file changes.
+
+set(DISPATCH_EMBED_SCRIPT ${CMAKE_CURRENT_LIST_FILE})
+
+function(dispatch_embed_page)
+  cmake_parse_arguments(PARSE_ARGV 0 arg "" "TARGET" "")
+  set(page_dir ${PROJECT_SOURCE_DIR}/src/web/page)
+  file(GLOB page_files CONFIGURE_DEPENDS ${page_dir}/*)
+  set(generated ${PROJECT_BINARY_DIR}/generated/page_files.cpp)
+  add_custom_command(
+    OUTPUT ${generated}
+    COMMAND ${CMAKE_COMMAND} -DPAGE_DIR=${page_dir} -DOUTPUT=${generated} -P ${DISPATCH_EMBED_SCRIPT}
+    DEPENDS ${page_files} ${DISPATCH_EMBED_SCRIPT}
+    COMMENT "Embedding the clerk's page")
+  add_library(${arg_TARGET} STATIC ${generated})
+  target_include_directories(${arg_TARGET} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+endfunction()
+
+# Run as a script: writes OUTPUT from the files of PAGE_DIR.
+if(CMAKE_SCRIPT_MODE_FILE AND DEFINED OUTPUT)
+  file(GLOB files RELATIVE ${PAGE_DIR} ${PAGE_DIR}/*)
+  list(SORT files)
+  set(body "// Made by cmake/embed_page.cmake from src/web/page; do not edit.\n")
+  string(APPEND body "#include \"web/page_files.h\"\n\n#include <map>\n#include <string>\n\nnamespace web {\nnamespace {\n\n")
+  set(entries "")
+  set(n 0)
+  foreach(name ${files})
+    file(READ ${PAGE_DIR}/${name} hex HEX)
+    string(REGEX REPLACE "([0-9a-f][0-9a-f])" "0x\\1," bytes "${hex}")
+    string(APPEND body "const unsigned char file${n}[] = {${bytes}0x00};\n")
+    get_filename_component(ext ${name} LAST_EXT)
+    if(ext STREQUAL ".html")
+      set(mime "text/html; charset=utf-8")
+    elseif(ext STREQUAL ".js")
+      set(mime "text/javascript; charset=utf-8")
+    elseif(ext STREQUAL ".css")
+      set(mime "text/css; charset=utf-8")
+    elseif(ext STREQUAL ".png")
+      set(mime "image/png")
+    elseif(ext STREQUAL ".svg")
+      set(mime "image/svg+xml")
+    else()
+      set(mime "application/octet-stream")
+    endif()
+    string(LENGTH "${hex}" hex_length)
+    math(EXPR size "${hex_length} / 2")
+    set(path "/${name}")
+    if(name STREQUAL "index.html")
+      set(path "/")
+    endif()
+    string(APPEND entries "        {\"${path}\", {{reinterpret_cast<const char*>(file${n}), ${size}}, \"${mime}\"}},\n")
+    math(EXPR n "${n} + 1")
+  endforeach()
+  string(APPEND body "}  // namespace\n\nconst PageFile* FindPageFile(std::string_view path) {\n")
+  string(APPEND body "    static const std::map<std::string, PageFile, std::less<>> files = {\n${entries}    };\n")
+  string(APPEND body "    auto found = files.find(path);\n    return found == files.end() ? nullptr : &found->second;\n}\n\n}  // namespace web\n")
+  file(WRITE ${OUTPUT}.new "${body}")
+  file(COPY_FILE ${OUTPUT}.new ${OUTPUT} ONLY_IF_DIFFERENT)
+endif()

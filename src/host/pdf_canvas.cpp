@@ -25,11 +25,20 @@ std::unique_ptr<PangoLayout, GObjectUnref> MakeLayout(cairo_t* cairo, const std:
     pango_font_description_set_weight(font.get(), style.bold ? PANGO_WEIGHT_BOLD : PANGO_WEIGHT_NORMAL);
     pango_font_description_set_style(font.get(), style.italic ? PANGO_STYLE_ITALIC : PANGO_STYLE_NORMAL);
     pango_layout_set_font_description(layout.get(), font.get());
-    pango_layout_set_width(layout.get(), int(width * PANGO_SCALE));
-    pango_layout_set_wrap(layout.get(), PANGO_WRAP_WORD_CHAR);
-    pango_layout_set_alignment(layout.get(), align == CellAlign::Right ? PANGO_ALIGN_RIGHT : PANGO_ALIGN_LEFT);
+    // Figures are right-aligned and never broken: a long one reaches into the
+    // padding on its left rather than losing its last digits to a second line.
+    if (align == CellAlign::Left) {
+        pango_layout_set_width(layout.get(), int(width * PANGO_SCALE));
+        pango_layout_set_wrap(layout.get(), PANGO_WRAP_WORD_CHAR);
+    }
     pango_layout_set_text(layout.get(), text.c_str(), int(text.size()));
     return layout;
+}
+
+double WidthOf(PangoLayout* layout) {
+    int width = 0, height = 0;
+    pango_layout_get_size(layout, &width, &height);
+    return double(width) / PANGO_SCALE;
 }
 
 double HeightOf(PangoLayout* layout) {
@@ -45,6 +54,7 @@ double PdfCanvas::Text(const std::string& text, const TextStyle& style, double x
     if (text.empty()) return 0.0;
     auto layout = MakeLayout(cairo_, text, style, width, align);
     if (drawing_) {
+        if (align == CellAlign::Right) x += width - WidthOf(layout.get());
         cairo_set_source_rgb(cairo_, style.grey, style.grey, style.grey);
         cairo_move_to(cairo_, x, y);
         pango_cairo_show_layout(cairo_, layout.get());
@@ -52,9 +62,9 @@ double PdfCanvas::Text(const std::string& text, const TextStyle& style, double x
     return HeightOf(layout.get());
 }
 
-double PdfCanvas::Measure(const std::string& text, const TextStyle& style, double width) {
+double PdfCanvas::Measure(const std::string& text, const TextStyle& style, double width, CellAlign align) {
     if (text.empty()) return 0.0;
-    return HeightOf(MakeLayout(cairo_, text, style, width, CellAlign::Left).get());
+    return HeightOf(MakeLayout(cairo_, text, style, width, align).get());
 }
 
 void PdfCanvas::Rule(double x1, double x2, double y, double weight, double grey) {

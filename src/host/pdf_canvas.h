@@ -29,7 +29,7 @@ public:
     // Draws the text in the box of the given width; the height it takes.
     double Text(const std::string& text, const TextStyle& style, double x, double y, double width,
                 CellAlign align = CellAlign::Left);
-    double Measure(const std::string& text, const TextStyle& style, double width);
+    double Measure(const std::string& text, const TextStyle& style, double width, CellAlign align = CellAlign::Left);
     void Rule(double x1, double x2, double y, double weight, double grey);
     void Fill(double x, double y, double width, double height, double grey);
 

@@ -69,13 +69,13 @@ struct KnownColumn {
 // The lines' columns in the order a clerk reads them; the widths favour the name.
 const KnownColumn kKnownColumns[] = {
     {"Item Code", {"Code", CellAlign::Left, 1.2}, Figure::Text},
-    {"Item Name", {"Item", CellAlign::Left, 3.4}, Figure::Text},
-    {"Batch", {"Batch", CellAlign::Left, 1.0}, Figure::Text},
+    {"Item Name", {"Item", CellAlign::Left, 3.3}, Figure::Text},
+    {"Batch", {"Batch", CellAlign::Left, 1.5}, Figure::Text},
     {"Unit", {"Unit", CellAlign::Left, 0.8}, Figure::Text},
     {"Quantity", {"Qty", CellAlign::Right, 0.8}, Figure::Quantity},
     {"Base Quantity", {"Base qty", CellAlign::Right, 1.2}, Figure::Quantity},
     {"Unit Price", {"Price", CellAlign::Right, 1.3}, Figure::Money},
-    {"Value", {"Value", CellAlign::Right, 1.8}, Figure::Money},
+    {"Value", {"Value", CellAlign::Right, 1.5}, Figure::Money},
 };
 constexpr const char* kFreeField = "Free";
 

@@ -151,7 +151,8 @@ private:
     double CellsHeight(const std::vector<std::string>& cells, const TextStyle& style) {
         double tallest = canvas_.Measure("0", style, kWidth);
         for (std::size_t c = 0; c < cells.size() && c < columnWidth_.size(); ++c)
-            tallest = std::max(tallest, canvas_.Measure(cells[c], style, columnWidth_[c] - 2 * kCellPadX));
+            tallest = std::max(
+                tallest, canvas_.Measure(cells[c], style, columnWidth_[c] - 2 * kCellPadX, note_.columns[c].align));
         return tallest + 2 * kCellPadY;
     }
 

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <memory>
 #include <sstream>
 
@@ -57,6 +58,10 @@ TEST_F(PrintedPdfTest, TheNoteIsWrittenBesideItsTextWithNumberCustomerAndEveryLi
     const std::string printed = PrintNote(9);
     EXPECT_EQ(std::filesystem::path(printed).filename(), "Dispatch-9.txt");
     ASSERT_TRUE(std::filesystem::exists(printed));
+    std::stringstream kept;
+    kept << std::ifstream(printed).rdbuf();
+    EXPECT_NE(kept.str().find("\nDispatch No: DN49\n"), std::string::npos) << kept.str();
+    EXPECT_NE(kept.str().find("\n5 lines\n"), std::string::npos) << "the text rendering stays as it was";
     const std::string pdf = host::PdfFileOf(printed);
     EXPECT_EQ(std::filesystem::path(pdf).filename(), "Dispatch-9.pdf");
 
@@ -132,6 +137,24 @@ TEST(NoteLayoutTest, ShowsOnlyWhatTheProceduresAnswered) {
     EXPECT_EQ(layout.rows[1].cells[4], "Free");
     EXPECT_EQ(layout.totals[3], "") << "boxes and pieces are not added up";
     EXPECT_EQ(layout.totals[4], "40.00");
+}
+
+// Quantities of one unit add up; the note's own total value is the one printed,
+// and its date is the day without the hour.
+TEST(NoteLayoutTest, TotalsTheQuantityOfOneUnitAndPrintsTheNotesOwnValue) {
+    host::PrintedNote note{"Dispatch", "8", "", {}, true, {"Item Name", "Unit", "Quantity", "Value"}, {}};
+    note.header = {{"Date", platform::DateTime(2026, 11, 24, 9, 30, 0)},
+                   {"Shipping Address", "Godown 3\r\nPondy Bazaar"},
+                   {"Total Value", 99.5}};
+    note.rows = {{"Soap", "PCS", 2.0, 40.0}, {"Oil", "PCS", 1.5, 60.0}};
+    const host::NoteLayout layout = host::LayOutNote(note);
+
+    EXPECT_EQ(layout.number, "8") << "without a number the key names the note";
+    EXPECT_EQ(layout.date, "24/11/2026");
+    ASSERT_EQ(layout.parties.size(), 1u);
+    EXPECT_EQ(layout.parties[0].caption, "Ship to");
+    EXPECT_EQ(layout.parties[0].lines, (std::vector<std::string>{"Godown 3\nPondy Bazaar"}));
+    EXPECT_EQ(layout.totals, (std::vector<std::string>{"", "Total, 2 lines", "", "3.5", "99.50"}));
 }
 
 }  // namespace

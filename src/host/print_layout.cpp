@@ -1,6 +1,5 @@
 #include "host/print_layout.h"
 
-#include <algorithm>
 #include <optional>
 
 #include "platform/convert.h"
@@ -125,12 +124,13 @@ void LayOutDetails(HeaderFields& fields, NoteLayout& layout) {
         if (auto text = fields.TakeText(field); !text.empty()) layout.details.emplace_back(caption, text);
 }
 
-void LayOutLines(const PrintedNote& note, const std::optional<platform::Value>& totalValue, NoteLayout& layout) {
+// The line number first, the known columns in their order, then whatever else the
+// lines carry; the free mark is not a column, it marks its row.
+std::vector<ShownColumn> ChooseColumns(const PrintedNote& note, NoteLayout& layout) {
     std::vector<ShownColumn> shown{{-1, "", Figure::Quantity}};
     layout.columns.push_back({"#", CellAlign::Right, 0.5});
     std::vector<bool> placed(note.columns.size(), false);
-    const int freeColumn = FindColumn(note.columns, kFreeField);
-    if (freeColumn >= 0) placed[freeColumn] = true;
+    if (int freeColumn = FindColumn(note.columns, kFreeField); freeColumn >= 0) placed[freeColumn] = true;
     for (const auto& known : kKnownColumns) {
         int source = FindColumn(note.columns, known.field);
         if (source < 0 || placed[source]) continue;
@@ -143,7 +143,12 @@ void LayOutLines(const PrintedNote& note, const std::optional<platform::Value>& 
             shown.push_back({int(i), note.columns[i], Figure::Text});
             layout.columns.push_back({note.columns[i], CellAlign::Left, 1.0});
         }
+    return shown;
+}
 
+void LayOutLines(const PrintedNote& note, const std::optional<platform::Value>& totalValue, NoteLayout& layout) {
+    const std::vector<ShownColumn> shown = ChooseColumns(note, layout);
+    const int freeColumn = FindColumn(note.columns, kFreeField);
     auto shownIndex = [&](const char* field) {
         for (std::size_t c = 0; c < shown.size(); ++c)
             if (SameName(shown[c].field, field)) return int(c);
@@ -177,8 +182,10 @@ void LayOutLines(const PrintedNote& note, const std::optional<platform::Value>& 
 
     layout.totals.assign(shown.size(), "");
     const std::size_t lines = layout.rows.size();
-    layout.totals[nameAt >= 0 ? nameAt : 1 % shown.size()] =
-        "Total, " + std::to_string(lines) + (lines == 1 ? " line" : " lines");
+    int labelAt = nameAt;
+    for (std::size_t c = 1; labelAt < 0 && c < shown.size(); ++c)
+        if (shown[c].figure == Figure::Text) labelAt = int(c);
+    if (labelAt >= 0) layout.totals[labelAt] = "Total, " + std::to_string(lines) + (lines == 1 ? " line" : " lines");
     // Boxes and pieces do not add up; the quantity is totalled only in one unit.
     if (quantityAt >= 0 && oneUnit) layout.totals[quantityAt] = platform::NumberToText(quantity);
     if (baseAt >= 0) layout.totals[baseAt] = platform::NumberToText(base);

@@ -20,6 +20,7 @@ struct LoadPlan {
 struct LoadOutcome {
     std::vector<std::string> savedNumbers;                 // the numbers the screen said it gave
     int refused = 0;                                       // notes the screen or the save turned away
+    int refusedAtSave = 0;                                 // of those, the ones the save itself refused
     std::vector<std::chrono::duration<double>> saveTimes;  // the save button, each note
     std::chrono::duration<double> elapsed{};
     std::vector<std::string> faults;  // calls that got no proper answer

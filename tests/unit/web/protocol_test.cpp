@@ -108,6 +108,26 @@ TEST(ServedScreen, ADialogWaitsForTheClerksAnswerAndThePasswordIsNeverShown) {
     }
 }
 
+TEST(ServedScreen, AStoredNoteViewedAndPrintedComesBackAsPdf) {
+    ServedScreen screen;
+    ClerkTab tab(screen, {{"screen", "dispatch"}, {"mode", 4}});
+    ASSERT_EQ(tab.Event({"tick", "lstSO", "2"}).status, 200);
+    tab.Event({"click", "cmdContinue"});
+    EXPECT_EQ(tab.ControlNamed("cmdSave")["caption"], "&Print");
+    ASSERT_EQ(tab.Event({"click", "cmdSave"}).status, 200);
+
+    // The screen asks whether to print through the print dialog; no prints it at once.
+    EXPECT_EQ(tab.Drawn()["dialog"]["kind"], "AskMessage");
+    ASSERT_EQ(tab.Reply({"7"}).status, 200);
+    ASSERT_EQ(tab.Drawn()["prints"].size(), 1u);
+    const std::string name = tab.Drawn()["prints"][0]["name"];
+    EXPECT_EQ(name.substr(name.size() - 4), ".pdf");
+    Answer pdf = screen.Send("GET", "/api/print/1", "", tab.Token());
+    ASSERT_EQ(pdf.status, 200);
+    EXPECT_EQ(pdf.body.get<std::string>().rfind("%PDF", 0), 0u);
+    EXPECT_EQ(screen.Send("GET", "/api/print/1", "").status, 401) << "a print is the form's own";
+}
+
 TEST(ServedScreen, ATabReachesOnlyTheFormItsTokenOpened) {
     ServedScreen screen;
     ClerkTab first(screen, kNewNote);

@@ -350,5 +350,8 @@ const Form = (() => {
     surface().addEventListener('keydown', onKey);
   });
 
-  return {start, draw, close, showRefusal, current: () => state};
+  // Idle: no typing waiting to go, no request on its way.
+  const idle = () => typing.size === 0 && !Api.busy();
+
+  return {start, draw, close, showRefusal, idle, current: () => state};
 })();

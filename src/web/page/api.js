@@ -56,6 +56,7 @@ const Api = (() => {
   // when, by the time its turn comes, there is nothing left to send.
   const jobs = [];
   let running = false;
+  let inFlight = false;
   let onState = () => {};
   let onRefused = () => {};
 
@@ -70,14 +71,20 @@ const Api = (() => {
       const job = jobs.shift();
       const call = job();
       if (!call) continue;
+      inFlight = true;
+      let state;
       try {
-        const state = await json('POST', call.path, call.body);
-        onState(state);
+        state = await json('POST', call.path, call.body);
       } catch (e) {
         // What followed a refused action was meant for a form that did not take it.
         jobs.length = 0;
         await onRefused(e);
+        inFlight = false;
+        continue;
       }
+      // While the answer is drawn the page is busy only with what the clerk did since.
+      inFlight = false;
+      onState(state);
     }
     running = false;
   }
@@ -88,7 +95,9 @@ const Api = (() => {
     setToken,
     request,
     json,
-    busy: () => running || jobs.length > 0,
+    busy: () => inFlight || jobs.length > 0,
+    // Whether the clerk has done more that is still to go.
+    queued: () => jobs.length > 0,
     // Handlers for the state each call answers and for a refusal.
     listen(stateHandler, refusedHandler) {
       onState = stateHandler;

@@ -75,17 +75,23 @@ const Form = (() => {
       flushPending();
       Api.event(words);
     },
+    // A control the clerk cannot reach takes no focus and no click.
     focus(id) {
-      if (state && state.focus === id) return;
+      if (!reachable(id) || state.focus === id) return;
       acts.send(['focus', id]);
     },
     click(id) {
-      acts.send(['click', id]);
+      if (reachable(id)) acts.send(['click', id]);
     },
     typed,
     typingPending: (id) => typing.has(id),
     busy: () => Api.busy(),
   };
+
+  function reachable(id) {
+    const c = controlState(id);
+    return !!c && c.enabled && shown(c) && !state.dialog;
+  }
 
   // ---- keys -----------------------------------------------------------------
 
@@ -292,7 +298,7 @@ const Form = (() => {
   }
 
   function applyFocus() {
-    if (Api.busy() || state.dialog || !state.focus) return;
+    if (Api.queued() || state.dialog || !state.focus) return;
     const view = views.get(state.focus);
     const target = view && (view.built.focusTarget || view.built.root);
     if (target && document.activeElement !== target) target.focus({preventScroll: false});

@@ -6,7 +6,8 @@
 #include "session/session_options.h"
 
 int main(int argc, char** argv) {
-    CLI::App cli{"The dispatch-note screen, driven by session scripts of user events.", "dispatch"};
+    CLI::App cli{"The dispatch-note screen: served to clerks' browsers, or driven by session scripts of user events.",
+                 "dispatch"};
     cli.require_subcommand(1);
 
     app::SessionCommand session;
@@ -26,6 +27,22 @@ int main(int argc, char** argv) {
     demoCommand->add_option("FILE", demoFile, "The database file to write")->required();
     demoCommand->add_flag("--force", force, "Replace the file when it exists");
 
+    app::ServeCommand serve;
+    serve.dataFolder = app::DefaultDataFolder();
+    std::string serveDatabase, servePrints, serveSettings;
+    auto* serveCommand = cli.add_subcommand("serve", "Serve the clerk's screen to browsers.");
+    serveCommand->add_option("--db", serveDatabase,
+                             "Database file (default: the demo database kept in the data folder)");
+    serveCommand->add_option("--listen", serve.listen, "ADDRESS:PORT to listen on")->capture_default_str();
+    serveCommand->add_option("--print-dir", servePrints, "Folder for printed notes (default: in the data folder)");
+    serveCommand->add_option("--settings", serveSettings, "Settings file ([Settings] NAME = VALUE)");
+    serveCommand->add_option("--idle-minutes", serve.idleMinutes, "Close a form left idle this long")
+        ->check(CLI::PositiveNumber)
+        ->capture_default_str();
+    serveCommand->add_option("--data-dir", serve.dataFolder, "Folder for the demo database and printed notes")
+        ->capture_default_str();
+    serveCommand->add_flag("--log", serve.logRequests, "Log each request (method, path, status) to standard error");
+
     cli.footer(
         "Exit status of session: 0 every expect held, 1 an expect failed, 2 the script or the command is wrong.");
 
@@ -40,6 +57,12 @@ int main(int argc, char** argv) {
         if (!database.empty()) session.database = database;
         if (!printFolder.empty()) session.printFolder = printFolder;
         return app::RunSession(session);
+    }
+    if (*serveCommand) {
+        if (!serveDatabase.empty()) serve.database = serveDatabase;
+        if (!servePrints.empty()) serve.printFolder = servePrints;
+        if (!serveSettings.empty()) serve.settingsFile = serveSettings;
+        return app::Serve(serve);
     }
     return app::WriteDemoDatabase(demoFile, force);
 }

@@ -1,8 +1,9 @@
 # The page's files compiled into the program. `dispatch_embed_page(TARGET target)`
-# adds to the target a generated source that holds every file of src/web/page/ as a
-# string and defines web::FindPageFile (src/web/page_files.h). The source is written
-# again whenever a page file changes; a file added or removed is seen at the next
-# configure, which the glob asks for.
+# makes the static library target, unless it is there already, and adds to it a
+# generated source that holds every file of src/web/page/ as a string and defines
+# web::FindPageFile (src/web/page_files.h). The source is written again whenever a
+# page file changes; a file added or removed is seen at the next configure, which
+# the glob asks for.
 #
 # Run as a script (cmake -DOUTPUT=... -DPAGE_DIR=... -P embed_page.cmake) this file
 # writes the source itself.
@@ -15,6 +16,9 @@ function(dispatch_embed_page)
   set(page_dir ${PROJECT_SOURCE_DIR}/src/web/page)
   file(GLOB page_files CONFIGURE_DEPENDS ${page_dir}/*)
   set(output ${PROJECT_BINARY_DIR}/generated/web/page_files.cpp)
+  if(NOT TARGET ${arg_TARGET})
+    add_library(${arg_TARGET} STATIC)
+  endif()
   add_custom_command(
     OUTPUT ${output}
     COMMAND ${CMAKE_COMMAND} -DOUTPUT=${output} -DPAGE_DIR=${page_dir} -P ${PROJECT_SOURCE_DIR}/cmake/embed_page.cmake

@@ -4,7 +4,7 @@
 DISPATCH_PACKAGES=(
     cmake ninja-build g++ ccache pkg-config
     libsqlite3-dev libgtest-dev libgmock-dev libbenchmark-dev
-    libfmt-dev libcli11-dev nlohmann-json3-dev libinih-dev
+    libfmt-dev libcli11-dev nlohmann-json3-dev libinih-dev libcpp-httplib-dev
 )
 
 missing_packages() {

@@ -59,12 +59,13 @@ public:
     std::vector<std::string> RowTexts() const override;
     // Row from 1; a row the list does not have is refused with std::out_of_range.
     void Pick(int row) override;
+    const platform::TextBox* Box() const override { return box_; }
 
     // ---- what a test or the host may look at ------------------------------------
     // The statement ShowList would run for the typed text.
     std::string QueryFor(const std::string& typedText) const;
     const std::vector<ListRow>& Rows() const { return rows_; }
-    int SelectedRow() const { return selected_; }  // from 0; -1 with no rows
+    int SelectedRow() const override { return selected_; }
     bool ProgramWriting() const { return programWriting_; }
     platform::TextBox* AttachedBox() const { return box_; }
     const std::string& Caption() const { return caption_; }

@@ -70,6 +70,12 @@ std::optional<std::vector<std::string>> DialogAnswers::Next(const std::string& d
     return values;
 }
 
+std::optional<std::vector<std::string>> DialogAnswers::Reply(const DialogQuestion& question) {
+    if (auto queued = Next(question.kind)) return queued;
+    if (asker) return asker(question);
+    return std::nullopt;
+}
+
 bool DialogAnswers::Pending(const std::string& dialog) const {
     auto it = queues_.find(dialog);
     return it != queues_.end() && !it->second.empty();

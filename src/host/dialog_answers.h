@@ -4,12 +4,25 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace host {
+
+// What a dialog puts before the user: its kind, its text and title, the buttons of a
+// message box, the entries it offers to choose from, and whether what is typed is
+// masked.
+struct DialogQuestion {
+    std::string kind;
+    std::string text;
+    std::string title;
+    int buttons = 0;
+    std::vector<std::string> choices;
+    bool masked = false;
+};
 
 class DialogAnswers {
 public:
@@ -23,6 +36,12 @@ public:
     static std::string Problem(const std::string& dialog, const std::vector<std::string>& values);
     std::optional<std::vector<std::string>> Next(const std::string& dialog);
     bool Pending(const std::string& dialog) const;
+
+    // Asked for the answer when none is queued: a person answering at a screen. It
+    // answers nothing when the dialog is to take its default.
+    std::function<std::optional<std::vector<std::string>>(const DialogQuestion&)> asker;
+    // The queued answer, else the asker's, else nothing.
+    std::optional<std::vector<std::string>> Reply(const DialogQuestion& question);
 
 private:
     std::map<std::string, std::deque<std::vector<std::string>>> queues_;

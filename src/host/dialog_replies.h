@@ -1,5 +1,6 @@
-// How a dialog's answer is taken: from the session's queue when one is waiting,
-// else the dialog's default, with the transcript saying which.
+// How a dialog's answer is taken: from the session's queue when one is waiting, else
+// from the person at the screen, else the dialog's default, with the transcript
+// saying which.
 #pragma once
 
 #include <optional>
@@ -17,8 +18,8 @@ struct DialogReply {
     std::string Shown(const std::string& answer) const { return byDefault ? answer + " (default)" : answer; }
 };
 
-inline DialogReply TakeReply(DialogAnswers& answers, const std::string& dialog) {
-    if (auto values = answers.Next(dialog)) return {std::move(*values), false};
+inline DialogReply TakeReply(DialogAnswers& answers, const DialogQuestion& question) {
+    if (auto values = answers.Reply(question)) return {std::move(*values), false};
     return {};
 }
 

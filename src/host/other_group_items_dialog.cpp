@@ -60,7 +60,10 @@ void PlainTools::ShowDocumentInfoDialog(host_services::OCGFreeItemsOwner& form, 
     for (std::size_t e = 0; e < entries.size(); ++e) given += (e ? ", " : "") + Describe(entries[e]);
     given += "]";
 
-    DialogReply reply = TakeReply(state_.answers, "ShowDocumentInfoDialog");
+    std::vector<std::string> shown;
+    for (const auto& entry : entries) shown.push_back(Describe(entry));
+    DialogReply reply =
+        TakeReply(state_.answers, {"ShowDocumentInfoDialog", customer + " " + serial, group, 0, shown, false});
     std::string problem;
     const OtherGroupItemsAnswer answer =
         reply.byDefault ? OtherGroupItemsAnswer{} : ReadOtherGroupItemsAnswer(reply.values, problem);

@@ -58,6 +58,10 @@ void PlainHost::SetServerDate(platform::Date date) { impl_->state.serverDate = d
 
 std::optional<platform::Date> PlainHost::LastTransactionDate() const { return impl_->state.lastTransactionDate; }
 const std::vector<std::string>& PlainHost::AppliedStyles() const { return impl_->state.appliedStyles; }
+std::string PlainHost::FrameCaption() const {
+    auto link = impl_->mainForm.LastLink();
+    return link ? link->Caption() : std::string();
+}
 std::string PlainHost::ShortcutText() const { return impl_->state.shortcutText; }
 int PlainHost::CloseDayRefreshes() const { return impl_->context.Refreshes(); }
 

@@ -11,6 +11,7 @@
 #include "host/dialog_answers.h"
 #include "host/settings.h"
 #include "host/transcript.h"
+#include "platform/controls.h"
 #include "platform/database.h"
 #include "screen/host_services/host_services.h"
 
@@ -22,6 +23,8 @@ public:
     virtual ~OpenList() = default;
     virtual std::vector<std::string> RowTexts() const = 0;  // the shown text of each row
     virtual void Pick(int row) = 0;                         // row from 1: its text and key land in the box
+    virtual const platform::TextBox* Box() const = 0;       // the box it drops down under, or nullptr
+    virtual int SelectedRow() const = 0;                    // from 0; -1 with no rows
 };
 
 class PlainHost {
@@ -52,6 +55,8 @@ public:
     // One line a look applied: "form NAME ...", "frame HWND ...", "grid NAME ...", "dropdown NAME 200",
     // "translate NAME".
     const std::vector<std::string>& AppliedStyles() const;
+    // The caption of the frame the last screen took.
+    std::string FrameCaption() const;
     // The hint line the main window shows (InitShortCuts).
     std::string ShortcutText() const;
     // How often the screen asked the context to refresh its day-close settings.

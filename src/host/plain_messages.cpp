@@ -37,8 +37,9 @@ void PlainMessages::TranslateLoadedForm(host_services::HostedForm& form) {
     state_.appliedStyles.push_back("translate loaded " + form.FormName());
 }
 
-int PlainMessages::AskMessage(const std::string& text, int buttons, const std::string&, const std::string&, long) {
-    DialogReply reply = TakeReply(state_.answers, "AskMessage");
+int PlainMessages::AskMessage(const std::string& text, int buttons, const std::string& title, const std::string&,
+                              long) {
+    DialogReply reply = TakeReply(state_.answers, {"AskMessage", text, title, buttons, {}, false});
     long answer = DefaultAnswer(buttons);
     if (!reply.byDefault) ParseInteger(reply.values[0], answer);
     state_.transcript.Message(buttons, text, reply.Shown(std::to_string(answer)));
@@ -46,10 +47,10 @@ int PlainMessages::AskMessage(const std::string& text, int buttons, const std::s
 }
 
 bool PlainMessages::ConfirmSaveOnExit(bool askOnExit) {
-    DialogReply reply = TakeReply(state_.answers, "ConfirmSaveOnExit");
-    bool stay = reply.byDefault || reply.values[0] == "true";
     std::string question = askOnExit ? "The lines have been changed. Do you want to save them before closing?"
                                      : "Do you want to save the lines before closing?";
+    DialogReply reply = TakeReply(state_.answers, {"ConfirmSaveOnExit", question, {}, 0, {}, false});
+    bool stay = reply.byDefault || reply.values[0] == "true";
     state_.transcript.Dialog("ConfirmSaveOnExit", QuoteText(question), reply.Shown(stay ? "true" : "false"));
     return stay;
 }

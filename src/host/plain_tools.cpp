@@ -20,11 +20,12 @@ std::string JoinTexts(const std::vector<std::string>& texts, const char* separat
 
 bool AskForText(HostState& state, const std::string& dialog, const std::string& prompt, const std::string& title,
                 std::string& text) {
-    DialogReply reply = TakeReply(state.answers, dialog);
+    // Both dialogs ask for a password: what is typed is masked, and never written down.
+    DialogReply reply = TakeReply(state.answers, {dialog, prompt, title, 0, {}, true});
     bool cancelled = reply.byDefault || reply.values[0] == "cancel";
     text = cancelled ? "\t" : reply.values[0];
     state.transcript.Dialog(dialog, QuoteText(prompt) + " " + QuoteText(title),
-                            reply.Shown(cancelled ? "cancel" : QuoteText(text)));
+                            reply.Shown(cancelled ? "cancel" : "(given)"));
     return !cancelled;
 }
 
@@ -134,7 +135,7 @@ bool PlainTools::SelectScheme(const platform::RecordsetPtr& schemes, long& schem
     for (const auto& scheme : offered) ids.push_back(scheme.id);
     std::string detail = QuoteText(itemCode) + " [" + JoinTexts(ids) + "]";
 
-    DialogReply reply = TakeReply(state_.answers, "SelectScheme");
+    DialogReply reply = TakeReply(state_.answers, {"SelectScheme", itemCode, "Schemes", 0, ids, false});
     if (reply.byDefault || reply.values[0] == "none") {
         state_.transcript.Dialog("SelectScheme", detail, reply.Shown("none"));
         return false;
@@ -176,7 +177,7 @@ bool PlainTools::SelectFreeItem(long schemeID, const std::string& schemeName, lo
     if (!primaryItemCode.empty()) detail += " " + QuoteText(primaryItemCode);
     detail += " [" + JoinTexts(offered) + "]";
 
-    DialogReply reply = TakeReply(state_.answers, "SelectFreeItem");
+    DialogReply reply = TakeReply(state_.answers, {"SelectFreeItem", schemeName, "Free Items", 0, offered, false});
     if (reply.byDefault || reply.values[0] == "none") {
         state_.transcript.Dialog("SelectFreeItem", detail, reply.Shown("none"));
         return false;
@@ -196,7 +197,7 @@ bool PlainTools::SelectFreeItem(long schemeID, const std::string& schemeName, lo
 }
 
 std::string PlainTools::SelectDocument(int kind) {
-    DialogReply reply = TakeReply(state_.answers, "SelectDocument");
+    DialogReply reply = TakeReply(state_.answers, {"SelectDocument", std::to_string(kind), "Documents", 0, {}, false});
     std::string reference = reply.byDefault ? std::string() : reply.values[0];
     state_.transcript.Dialog("SelectDocument", std::to_string(kind),
                              reply.Shown(reply.byDefault ? "cancel" : QuoteText(reference)));
@@ -219,7 +220,8 @@ void PlainTools::ShowNotFoundDialog(const std::string& text) {
 bool PlainTools::ShowMemoDialog(std::string& memo1, std::string& memo2, std::string& memo3, bool readOnly, int) {
     std::string given = QuoteText(memo1) + " " + QuoteText(memo2) + " " + QuoteText(memo3);
     if (readOnly) given += " read-only";
-    DialogReply reply = TakeReply(state_.answers, "ShowMemoDialog");
+    DialogReply reply = TakeReply(
+        state_.answers, {"ShowMemoDialog", readOnly ? "read-only" : "", "Memo", 0, {memo1, memo2, memo3}, false});
     bool accepted = !reply.byDefault && reply.values.back() == "ok";
     // A note on view shows its memos but keeps them.
     if (accepted && !readOnly && reply.values.size() == 4) {

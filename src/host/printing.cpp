@@ -27,6 +27,10 @@ std::string FileNamePart(const std::string& text) {
 
 }  // namespace
 
+std::string PdfFileOf(const std::string& printedFile) {
+    return std::filesystem::path(printedFile).replace_extension(".pdf").string();
+}
+
 platform::RecordsetPtr NotePrinter::Feed(const std::string& procedure, const std::string& key) {
     // Keys of stored documents are numbers; the procedures take them as such.
     platform::Parameter parameter;

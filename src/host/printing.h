@@ -17,6 +17,9 @@ struct PrintJob {
     std::string key;
 };
 
+// The PDF written beside a printed file: the same name ending in .pdf.
+std::string PdfFileOf(const std::string& printedFile);
+
 class NotePrinter {
 public:
     explicit NotePrinter(platform::Connection& connection) : connection_(connection) {}

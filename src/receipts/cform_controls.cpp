@@ -73,6 +73,12 @@ void Zuro_frmCForm_Dispatch::RegisterControls() {
         controls_[control->FullName()] = control;
 }
 
+std::vector<platform::Control*> Zuro_frmCForm_Dispatch::Controls() const {
+    std::vector<platform::Control*> controls;
+    for (const auto& [name, control] : controls_) controls.push_back(control);
+    return controls;
+}
+
 platform::Control* Zuro_frmCForm_Dispatch::FindControl(const std::string& name, int index) {
     if (index >= 0) return nullptr;  // the form has no control arrays
     auto it = controls_.find(name);

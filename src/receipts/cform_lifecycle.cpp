@@ -2,6 +2,7 @@
 // filters and the first list; closing asks before marks on the list are lost and
 // hands the frame back.
 #include "receipts/zuro_frm_cform_dispatch.h"
+#include "screen/screen_titles.h"
 
 namespace receipts {
 
@@ -36,7 +37,7 @@ void Zuro_frmCForm_Dispatch::InitForm(platform::Date DServerDate, host_services:
                               global.GetGridBodyFont());
         global.ApplyFormStyle(*objLink, global.GetGridHeaderFont(), global.GetGridBodyFont());
         objLink->SetIcon(global.GetFormIcon());
-        objLink->SetCaption(messages.GetLabel("C-Form/D-Form Receipt"));
+        objLink->SetCaption(messages.GetLabel(screen::kCFormTitle));
 
         szYesText = messages.GetLabel("Yes");
         szNoText = messages.GetLabel("No");

@@ -257,6 +257,12 @@ void Zuro_frmDispatch_Dispatch::RegisterControls() {
     for (auto& label : lblFieldsArray) controls_[label->FullName()] = label.get();
 }
 
+std::vector<platform::Control*> Zuro_frmDispatch_Dispatch::Controls() const {
+    std::vector<platform::Control*> controls;
+    for (const auto& [name, control] : controls_) controls.push_back(control);
+    return controls;
+}
+
 platform::Control* Zuro_frmDispatch_Dispatch::FindControl(const std::string& name, int index) {
     const std::string key = index < 0 ? name : name + "(" + std::to_string(index) + ")";
     auto it = controls_.find(key);

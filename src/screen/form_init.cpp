@@ -1,5 +1,6 @@
 // Entry into the screen: InitForm binds the host, takes a frame, reads the
 // labels and prefixes, and opens the page of the mode.
+#include "screen/screen_titles.h"
 #include "screen/zuro_frm_dispatch_dispatch.h"
 
 namespace screen {
@@ -25,6 +26,8 @@ ModeTitles TitlesOf(long nMode) {
     }
 }
 }  // namespace
+
+const char* DispatchModeTitle(long nMode) { return TitlesOf(nMode).frameTitle; }
 
 void Zuro_frmDispatch_Dispatch::InitForm(platform::Date DServerDate, long nModeArg,
                                          host_services::HostContext& Zuro_objGlobal, platform::Date AlertDate) {

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/controls.h"
 #include "platform/event.h"
@@ -17,6 +18,8 @@ class ScreenForm : public host_services::HostedForm {
 public:
     // nullptr when the form has no such control.
     virtual platform::Control* FindControl(const std::string& name, int index = -1) = 0;
+    // Every control of the form, for a host that draws it.
+    virtual std::vector<platform::Control*> Controls() const = 0;
     // The grid of the screen; nullptr when it has none.
     virtual platform::DTFlex* Grid() = 0;
     // A screen field written as text; nothing when the form has no such field.

@@ -528,6 +528,7 @@ public:
     platform::Control* ActiveControl() const override { return activeControl_; }
     void MoveFocus(platform::Control& to) override;
     platform::Control* FindControl(const std::string& name, int index = -1) override;
+    std::vector<platform::Control*> Controls() const override;
     platform::DTFlex* Grid() override { return &DTFlexDispatch; }
     std::optional<std::string> FieldText(const std::string& name) const override;
     bool SetFieldText(const std::string& name, const std::string& text) override;

@@ -54,6 +54,10 @@ public:
     // once it has been closed.
     screen::ScreenForm& Form(const ScriptCommand& command);
     bool ScreenIsOpen() const { return form_ != nullptr && form_->IsLoaded(); }
+    // The open screen, or nullptr; for a host that draws it.
+    screen::ScreenForm* OpenScreen() const { return ScreenIsOpen() ? form_ : nullptr; }
+    // The host once a line has made it, or nullptr.
+    host::PlainHost* MadeHost() const { return host_.get(); }
 
     // The control named by argument n; a ScriptError when the screen has none.
     platform::Control& ControlArgument(const ScriptCommand& command, std::size_t n);

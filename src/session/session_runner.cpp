@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include <cctype>
+
 #include "platform/runtime_error.h"
 #include "session/script_error.h"
 #include "session/script_parser.h"
@@ -9,6 +11,28 @@
 #include "session/verbs.h"
 
 namespace session {
+namespace {
+
+bool SameWord(std::string a, std::string b) {
+    auto lower = [](std::string& s) {
+        for (char& c : s) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    };
+    lower(a), lower(b);
+    return a == b;
+}
+
+// A password the script gives, for the host or for a dialog, is not written back
+// into the transcript.
+std::string ShownCommand(const ScriptCommand& command) {
+    const auto& words = command.words;
+    if (words.size() < 3) return command.source;
+    bool secret =
+        (words[0] == "setting" && SameWord(words[1], "AdministratorPassword")) ||
+        (words[0] == "answer" && (words[1] == "InputPassword" || words[1] == "InputBoxE") && words[2] != "cancel");
+    return secret ? words[0] + " " + words[1] + " (given)" : command.source;
+}
+
+}  // namespace
 
 VerbTable AllVerbs() {
     VerbTable verbs;
@@ -41,7 +65,7 @@ int SessionRunner::Run(std::string_view scriptText) {
     const VerbTable verbs = AllVerbs();
     Session session(out_, options_);
     for (const auto& command : commands) {
-        session.transcript.Line("> " + command.source);
+        session.transcript.Line("> " + ShownCommand(command));
         try {
             auto verb = verbs.find(command.Verb());
             if (verb == verbs.end()) throw ScriptError(command.line, fmt::format("unknown verb {}", command.Verb()));

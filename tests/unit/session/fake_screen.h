@@ -27,6 +27,11 @@ public:
     platform::Control* ActiveControl() const override { return active_; }
     void MoveFocus(platform::Control& to) override;
     platform::Control* FindControl(const std::string& name, int index) override;
+    std::vector<platform::Control*> Controls() const override {
+        auto* self = const_cast<FakeScreen*>(this);
+        return {&self->frame3,  &self->txtCustomer, &self->txtInFrame, &self->txtLocked,
+                &self->cmdSave, &self->lstSO,       &self->grid};
+    }
     platform::DTFlex* Grid() override { return &grid; }
     std::optional<std::string> FieldText(const std::string& name) const override;
     const screen::RoutineTable& Routines() const override { return routines_; }

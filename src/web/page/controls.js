@@ -42,10 +42,27 @@ const Controls = (() => {
     if (input.value !== text) input.value = text;
   }
 
+  // The form's labels were measured for a narrower face than the page may have: a
+  // caption wider than its label is narrowed to fit rather than cut off.
+  function fitLabel(root, width) {
+    root.style.transform = '';
+    if (!(width > 0) || root.hidden) return;
+    const needed = root.scrollWidth;
+    if (needed <= width + 1) return;
+    root.style.width = `${needed}px`;
+    root.style.transform = `scaleX(${Math.max(width / needed, 0.7)})`;
+  }
+
   function label(c, acts) {
     const root = make('div', 'ctl label');
     root.addEventListener('mousedown', () => acts.click(c.id));
-    return {root, update: (s) => caption(root, s.caption)};
+    return {
+      root,
+      update(s) {
+        caption(root, s.caption);
+        fitLabel(root, s.width);
+      },
+    };
   }
 
   function frame(c) {

@@ -130,7 +130,7 @@ class PageTest(unittest.TestCase):
 
     def settle(self):
         """Waits until the page has sent everything and drawn the last answer."""
-        self.wait_for(lambda: self.browser.execute_script("return !window.Form || Form.idle()"), "the page to settle")
+        self.wait_for(lambda: self.browser.execute_script("return typeof Form === 'undefined' || Form.idle()"), "the page to settle")
 
     def state(self):
         return self.browser.execute_script("return Form.current()")
@@ -151,7 +151,7 @@ class PageTest(unittest.TestCase):
 
     def open_screen(self, mode):
         self.browser.find_element(By.CSS_SELECTOR, f'#menu-buttons button[data-mode="{mode}"]').click()
-        self.wait_for(lambda: self.browser.execute_script("return !!(window.Form && Form.current())"), "the form")
+        self.wait_for(lambda: self.browser.execute_script("return typeof Form !== 'undefined' && !!Form.current()"), "the form")
         self.settle()
 
     def keys(self, *keys):

@@ -23,12 +23,12 @@ class Mode4Print(PageTest):
         self.open_screen(4)
         # Looked up by number: the range's first box, Enter, its last box, Enter.
         self.click(self.control("txtDocID"))
-        self.keys("DN42")
-        self.keys(Keys.ENTER)
-        self.click(self.control("txtDocIDTo"))
-        self.browser.switch_to.active_element.clear()
-        self.keys("DN43")
-        self.keys(Keys.ENTER)
+        self.keys("DN42", Keys.ENTER)
+        # The form has copied the first number into the second box: typed over.
+        self.assertEqual(self.focused_control(), "txtDocIDTo")
+        self.assertEqual(self.control("txtDocIDTo").get_attribute("value"), "DN42")
+        self.keys(Keys.CONTROL + "a")
+        self.keys("DN43", Keys.ENTER)
         self.assertEqual(self.focused_control(), "lstSO")
         texts = self.list_texts()
         self.assertIn("Bharat Traders", texts[2])

@@ -43,14 +43,15 @@ const Controls = (() => {
   }
 
   // The form's labels were measured for a narrower face than the page may have: a
-  // caption wider than its label is narrowed to fit rather than cut off.
+  // caption a little wider than its label is narrowed to fit; a much longer one (a
+  // label the form fills with a name) runs on past its width.
   function fitLabel(root, width) {
     root.style.transform = '';
     if (!(width > 0) || root.hidden) return;
     const needed = root.scrollWidth;
     if (needed <= width + 1) return;
     root.style.width = `${needed}px`;
-    root.style.transform = `scaleX(${Math.max(width / needed, 0.7)})`;
+    if (width / needed >= 0.75) root.style.transform = `scaleX(${width / needed})`;
   }
 
   function label(c, acts) {

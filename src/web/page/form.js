@@ -207,7 +207,8 @@ const Form = (() => {
     let width = 0;
     let height = 0;
     for (const c of state.controls) {
-      if (c.container || !c.visible || c.left + c.width <= 0 || c.top + c.height <= 0) continue;
+      if (c.container || !c.visible || c.width <= 0 || c.height <= 0) continue;
+      if (c.left + c.width <= 0 || c.top + c.height <= 0) continue;
       width = Math.max(width, c.left + c.width);
       height = Math.max(height, c.top + c.height);
     }

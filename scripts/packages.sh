@@ -5,6 +5,7 @@ DISPATCH_PACKAGES=(
     cmake ninja-build g++ ccache pkg-config
     libsqlite3-dev libgtest-dev libgmock-dev libbenchmark-dev
     libfmt-dev libcli11-dev nlohmann-json3-dev libinih-dev libcpp-httplib-dev
+    libcairo2-dev libpango1.0-dev poppler-utils
 )
 
 missing_packages() {

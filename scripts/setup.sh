@@ -1,8 +1,10 @@
 #!/usr/bin/env bash
 # Sets a fresh Debian machine up (run as root): installs the packages that are
-# missing, builds, writes the demo database and runs the demo session.
+# missing, builds, writes the demo database, runs the demo session, and starts the
+# clerk's screen on the demo database (Ctrl+C stops it).
 #   BUILD   build folder (default: build)
 #   JOBS    parallel compile jobs (default: all cores)
+#   LISTEN  address and port of the clerk's screen (default: 127.0.0.1:8080)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/packages.sh
@@ -20,3 +22,7 @@ cmake --build "$BUILD" -j "$JOBS"
 echo
 echo "== the demo session (tests/sessions/demo.session) =="
 "$BUILD"/dispatch session tests/sessions/demo.session
+
+echo
+echo "== the clerk's screen =="
+exec "$BUILD"/dispatch serve --listen "${LISTEN:-127.0.0.1:8080}"

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "host/print_pdf.h"
 #include "host/result_sets.h"
 #include "platform/convert.h"
 #include "platform/runtime_error.h"
@@ -25,6 +26,25 @@ std::string FileNamePart(const std::string& text) {
     return part;
 }
 
+std::string RenderText(const PrintedNote& note) {
+    std::ostringstream text;
+    text << note.documentKind << " " << note.key << "\n";
+    if (!note.settingsFile.empty()) text << "Template: " << note.settingsFile << "\n";
+    text << "\n";
+    for (const auto& [name, value] : note.header) text << name << ": " << platform::ToText(value) << "\n";
+    text << "\n";
+    if (note.hasDetail) {
+        for (std::size_t i = 0; i < note.columns.size(); ++i) text << (i ? " | " : "") << note.columns[i];
+        text << "\n";
+        for (const auto& row : note.rows) {
+            for (std::size_t i = 0; i < row.size(); ++i) text << (i ? " | " : "") << platform::ToText(row[i]);
+            text << "\n";
+        }
+        text << "\n" << note.rows.size() << (note.rows.size() == 1 ? " line" : " lines") << "\n";
+    }
+    return text.str();
+}
+
 }  // namespace
 
 std::string PdfFileOf(const std::string& printedFile) {
@@ -43,39 +63,33 @@ platform::RecordsetPtr NotePrinter::Feed(const std::string& procedure, const std
     return FirstResultWithRows(connection_.RunProcedure(procedure, platform::ParameterList(1, parameter)));
 }
 
-std::string NotePrinter::Render(const PrintJob& job) {
-    std::ostringstream note;
-    note << job.documentKind << " " << job.key << "\n";
-    if (!job.settingsFile.empty()) note << "Template: " << job.settingsFile << "\n";
-    note << "\n";
-
+PrintedNote NotePrinter::Fetch(const PrintJob& job) {
+    PrintedNote note{job.documentKind, job.key, job.settingsFile, {}, false, {}, {}};
     if (!job.abstractProcedure.empty()) {
         auto abstract = Feed(job.abstractProcedure, job.key);
         if (abstract && abstract->IsOpen() && !abstract->Eof())
             for (int i = 0; i < abstract->FieldCount(); ++i)
-                note << abstract->FieldName(i) << ": " << platform::ToText(abstract->Fields(i)) << "\n";
+                note.header.emplace_back(abstract->FieldName(i), abstract->Fields(i));
     }
-    note << "\n";
-
     if (!job.detailProcedure.empty()) {
         auto detail = Feed(job.detailProcedure, job.key);
         if (detail && detail->IsOpen()) {
-            for (int i = 0; i < detail->FieldCount(); ++i) note << (i ? " | " : "") << detail->FieldName(i);
-            note << "\n";
-            int lines = 0;
-            for (; !detail->Eof(); detail->MoveNext(), ++lines) {
-                for (int i = 0; i < detail->FieldCount(); ++i)
-                    note << (i ? " | " : "") << platform::ToText(detail->Fields(i));
-                note << "\n";
+            note.hasDetail = true;
+            for (int i = 0; i < detail->FieldCount(); ++i) note.columns.push_back(detail->FieldName(i));
+            for (; !detail->Eof(); detail->MoveNext()) {
+                auto& row = note.rows.emplace_back();
+                for (int i = 0; i < detail->FieldCount(); ++i) row.push_back(detail->Fields(i));
             }
-            note << "\n" << lines << (lines == 1 ? " line" : " lines") << "\n";
         }
     }
-    return note.str();
+    return note;
 }
 
+std::string NotePrinter::Render(const PrintJob& job) { return RenderText(Fetch(job)); }
+
 std::string NotePrinter::Print(const PrintJob& job, const std::string& outputFolder) {
-    std::string text = Render(job);
+    const PrintedNote note = Fetch(job);
+    const std::string text = RenderText(note);
     namespace fs = std::filesystem;
     fs::path folder = outputFolder.empty() ? fs::path(".") : fs::path(outputFolder);
     fs::path file = folder / (FileNamePart(job.documentKind) + "-" + FileNamePart(job.key) + ".txt");
@@ -84,6 +98,7 @@ std::string NotePrinter::Print(const PrintJob& job, const std::string& outputFol
     std::ofstream out(file, std::ios::binary | std::ios::trunc);
     if (!out || !(out << text) || !out.flush())
         throw platform::RuntimeError(kPathFileAccessError, "Path/File access error");
+    WriteNotePdf(LayOutNote(note), PdfFileOf(file.string()));
     return file.string();
 }
 

@@ -6,7 +6,7 @@
 #include <chrono>
 #include <thread>
 
-#include "served_screen.h"
+#include "support/served_screen.h"
 
 namespace web::testing {
 namespace {

@@ -1,4 +1,4 @@
-#include "served_screen.h"
+#include "support/served_screen.h"
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>

@@ -90,7 +90,9 @@ const Form = (() => {
 
   function reachable(id) {
     const c = controlState(id);
-    return !!c && c.enabled && shown(c) && !state.dialog;
+    if (!c || state.dialog) return false;
+    for (let at = c; at; at = containerOf(at)) if (!at.visible || !at.enabled) return false;
+    return true;
   }
 
   // ---- keys -----------------------------------------------------------------

@@ -6,6 +6,7 @@ DISPATCH_PACKAGES=(
     libsqlite3-dev libgtest-dev libgmock-dev libbenchmark-dev
     libfmt-dev libcli11-dev nlohmann-json3-dev libinih-dev libcpp-httplib-dev
     libcairo2-dev libpango1.0-dev poppler-utils
+    chromium chromium-driver python3-selenium
 )
 
 missing_packages() {

@@ -26,15 +26,11 @@ protected:
     }
 };
 
-TEST_F(ItemLookup, TheListFollowsTheGridsEditorAndIsLockedToItsItems) {
+TEST_F(ItemLookup, OneGroupListsItsItemsByCodeOrByNameAsTypedInTheGridsEditor) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     ASSERT_NE(f.objItemList, nullptr);
     EXPECT_EQ(List().AttachedBox(), &f.DTFlexDispatch.EditorBox());
     EXPECT_TRUE(List().LockedToList());
-}
-
-TEST_F(ItemLookup, OneGroupListsItsItemsByCodeOrByNameAsTyped) {
-    Open(2);
     Party("Arun Kumar", "1", "Foods", "1");
     EXPECT_EQ(Statement(1, "FD"),
               "Select Product_Code,Product_Code From dbo.Fn_Get_Items_QAX('1') Where Product_Code Like 'FD%'");

@@ -65,22 +65,6 @@ TEST_F(SaveTest, EveryCallOfTheSaveFailingLeavesTablesAndGridAsTheyWere) {
         "1");
 }
 
-TEST_F(SaveTest, ANoteFromASalesConfirmationLowersItsPendingLinesAndClosesIt) {
-    auto& f = KeyNoteForRavi();
-    // As if keyed from confirmation 1, which holds Marie at 240 pieces pending.
-    f.nMode = screen::mode::FromSalesConfirmation;
-    f.szDocNumbers = "1";
-    ASSERT_TRUE(f.SaveDispatch()) << ErrorLines();
-    const std::string document = Scalar("SELECT MAX(DocumentID) FROM DispatchAbstract");
-    EXPECT_EQ(Scalar("SELECT Status FROM DispatchAbstract WHERE DocumentID = " + document), "1");
-    EXPECT_EQ(Scalar("SELECT Pending FROM SODetail WHERE SOLineID = 1"), "192");
-    EXPECT_EQ(Scalar("SELECT (Status & 128) || '|' || DispatchDocID FROM SOAbstract WHERE SONumber = 1"),
-              "128|" + document);
-    // The list page comes back for the next confirmation.
-    EXPECT_TRUE(f.Frame1(0).Enabled);
-    EXPECT_TRUE(f.txtref.Locked);
-}
-
 TEST_F(SaveTest, StockThatCannotBeReadCountsAsNone) {
     auto& f = Open(2);
     faults->FailMatching("spr_get_total_bookstock");

@@ -25,8 +25,8 @@ void RunWords(session::Session& session, const std::vector<std::string>& words) 
 }  // namespace
 
 void RunUserEvent(session::Session& session, const std::vector<std::string>& words) {
-    static const std::set<std::string> userVerbs = {"focus",  "type",   "key",  "click", "dblclick", "tick",
-                                                    "untick", "select", "date", "pick",  "grid",     "cell"};
+    static const std::set<std::string> userVerbs = {"focus",  "type", "key",  "click", "dblclick", "tick", "untick",
+                                                    "select", "date", "pick", "grid",  "cell",     "close"};
     if (words.empty()) throw WebRefusal(400, "an event needs a verb");
     if (!userVerbs.contains(words.front())) throw WebRefusal(400, "the page may not send " + words.front());
     RunWords(session, words);

@@ -9,8 +9,19 @@
     Menu.show(openForm, reason);
   }
 
+  // The form closed itself: the server lets its token go, and the tab goes back to
+  // the menu.
+  async function formClosed() {
+    try {
+      await Api.request('DELETE', '/api/forms');
+    } catch (e) {
+      // A form the server has already closed is just as gone.
+    }
+    backToMenu();
+  }
+
   function openForm(first) {
-    Form.start(first, () => backToMenu());
+    Form.start(first, formClosed);
   }
 
   // A refused action leaves the form as it was: say why and draw it afresh.
@@ -27,14 +38,10 @@
     Form.showRefusal(e.message);
   }
 
-  async function closeForm() {
-    if (!window.confirm('Close this screen without saving?')) return;
-    try {
-      await Api.request('DELETE', '/api/forms');
-    } catch (e) {
-      // A form the server has already closed is just as gone.
-    }
-    backToMenu();
+  // The window's close box closes the screen as the clerk closes it: the form asks
+  // its own question about unsaved lines, and may stay.
+  function closeForm() {
+    Api.event(['close']);
   }
 
   document.addEventListener('DOMContentLoaded', async () => {

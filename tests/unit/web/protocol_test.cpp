@@ -200,6 +200,25 @@ TEST(ServedScreen, BadInputIsRefusedWithAReasonAndChangesNothing) {
     EXPECT_EQ(NoteCount(screen), notes);
 }
 
+TEST(ServedScreen, TheClerkClosingTheScreenIsAskedAboutItsLinesAndMayStay) {
+    ServedScreen screen;
+    ClerkTab tab(screen, kNewNote);
+    KeyCustomer(tab, "Ravi");
+    KeyLine(tab, 1, "FD001", "5");
+    const int before = NoteCount(screen);
+
+    tab.Event({"close"});
+    EXPECT_EQ(tab.Drawn()["dialog"]["kind"], "ConfirmSaveOnExit");
+    tab.Reply({"true"});
+    EXPECT_TRUE(tab.Drawn()["open"]) << "the clerk stays to save";
+    EXPECT_EQ(tab.Drawn()["focus"], "cmdSave");
+
+    tab.Event({"close"});
+    tab.Reply({"false"});
+    EXPECT_FALSE(tab.Drawn()["open"]);
+    EXPECT_EQ(NoteCount(screen), before);
+}
+
 TEST(ServedScreen, AFormLeftIdleIsClosedAndItsNoteIsNotWritten) {
     ServedScreen screen(CreditPasswordSettings(), std::chrono::milliseconds(300));
     PutRaviOverItsLimit(screen);

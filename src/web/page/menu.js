@@ -26,7 +26,8 @@ const Menu = (() => {
       button.className = 'button menu-button';
       button.dataset.screen = screen.screen;
       if (screen.mode !== undefined) button.dataset.mode = screen.mode;
-      Controls.caption(button, screen.caption);
+      // Modes 1 and 6 share their caption: the mode's number tells them apart.
+      Controls.caption(button, screen.mode !== undefined ? `${screen.mode}  ${screen.caption}` : screen.caption);
       button.addEventListener('click', () => open(screen, onOpened));
       buttons.append(button);
     }

@@ -252,18 +252,7 @@ const Controls = (() => {
           const n = String(i + 1);
           const chosen = s.checkBoxes ? i === s.listIndex : !!(s.selected || [])[i] || i === s.listIndex;
           row.classList.toggle('selected', chosen);
-          if (s.checkBoxes) {
-            const box = make('input');
-            box.type = 'checkbox';
-            box.checked = !!(s.selected || [])[i];
-            box.tabIndex = -1;
-            box.addEventListener('click', (e) => {
-              e.preventDefault();
-              e.stopPropagation();
-              acts.send([box.checked ? 'tick' : 'untick', c.id, n]);
-            });
-            row.append(box);
-          }
+          if (s.checkBoxes) row.append(tickBox(!!(s.selected || [])[i], c.id, n, acts));
           row.append(entry);
           row.addEventListener('click', () => acts.send(['select', c.id, n]));
           root.append(row);
@@ -271,6 +260,21 @@ const Controls = (() => {
         root.classList.toggle('disabled', !s.enabled);
       },
     };
+  }
+
+  // A row's check box: the click goes to the form as a tick or an untick, and the
+  // box shows what the form answers, not what the browser toggled.
+  function tickBox(checked, id, n, acts) {
+    const box = make('input');
+    box.type = 'checkbox';
+    box.checked = checked;
+    box.tabIndex = -1;
+    box.addEventListener('click', (e) => {
+      e.preventDefault();
+      e.stopPropagation();
+      acts.send([checked ? 'untick' : 'tick', id, n]);
+    });
+    return box;
   }
 
   function listView(c, acts) {
@@ -315,16 +319,7 @@ const Controls = (() => {
           if (s.checkBoxes) {
             const td = tr.insertCell();
             td.className = 'tick-col';
-            const box = make('input');
-            box.type = 'checkbox';
-            box.checked = !!item.checked;
-            box.tabIndex = -1;
-            box.addEventListener('click', (e) => {
-              e.preventDefault();
-              e.stopPropagation();
-              acts.send([item.checked ? 'untick' : 'tick', c.id, n]);
-            });
-            td.append(box);
+            td.append(tickBox(!!item.checked, c.id, n, acts));
           }
           const texts = [item.text, ...(item.subItems || [])];
           for (const {i} of shown) {

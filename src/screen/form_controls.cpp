@@ -116,7 +116,9 @@ Zuro_frmDispatch_Dispatch::Zuro_frmDispatch_Dispatch(host_services::HostServices
                         &lblDocReference, &lblDocType, &lblDispatchID})
         label->Container = &Frame4, label->Width = 1000;
     lblFields(3).Container = &Frame4, lblFields(3).Width = 1150, lblFields(3).Caption = "Dispatch Date:";
-    lblDispDate.Caption = "Dispatch Date:";
+    // The date box's label on the page is lblFields(3), which the layout places; this
+    // one keeps the designer's caption out of sight.
+    lblDispDate.Caption = "Dispatch Date:", lblDispDate.Visible = false;
     lblSalesman.Caption = "Salesman:";
     lblBeat.Caption = "Beat:";
     lblCatGroup.Caption = "Category Group:";

@@ -22,6 +22,15 @@ TEST_F(SessionTest, OpenDatesDefaultToTodayAndAFormWithoutAScreenOpensNone) {
     EXPECT_THAT(outcome.out, HasSubstr("FAIL line 3: click cmdSave: the screen did not open"));
 }
 
+TEST_F(SessionTest, APasswordTheScriptGivesIsNotWrittenBack) {
+    auto outcome =
+        Run("database empty\nsetting administratorpassword \"s3cret\"\nanswer InputBoxE \"s3cret\"\n"
+            "answer InputPassword cancel\n");
+    EXPECT_THAT(outcome.out, Not(HasSubstr("s3cret")));
+    EXPECT_THAT(outcome.out, HasLine("> setting administratorpassword (given)"));
+    EXPECT_THAT(outcome.out, HasLine("> answer InputPassword cancel"));
+}
+
 TEST_F(SessionTest, ScriptErrorsStopAtTheirLineWithStatusTwo) {
     struct Case {
         std::string script, error;

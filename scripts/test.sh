@@ -25,6 +25,7 @@ run_suite "$BUILD" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DDISPATCH_STRICT_FAULTS=ON
 
 export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1:abort_on_error=1}
 export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1:halt_on_error=1}
+export LSAN_OPTIONS=${LSAN_OPTIONS:-suppressions=$PWD/scripts/lsan.supp}
 # The browser drives the same server the HTTP tests drive under the sanitizers; it
 # runs once, in the normal build.
 run_suite "$BUILD-sanitize" -DCMAKE_BUILD_TYPE=Debug -DDISPATCH_SANITIZE=ON -DDISPATCH_BENCHMARKS=OFF \

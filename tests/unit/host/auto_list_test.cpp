@@ -1,4 +1,5 @@
 #include <stdexcept>
+#include <tuple>
 
 #include "host_fixture.h"
 #include "platform/controls.h"
@@ -68,9 +69,7 @@ TEST_F(AutoListTest, RowsComeInDisplayOrderAfterTheAllOption) {
     EXPECT_EQ(box.Text(), "") << "a pick outside the list changes nothing";
     EXPECT_EQ(callBacks, 0);
     host->VisibleList()->Pick(1);
-    EXPECT_EQ(box.Text(), "ALL CUSTOMERS");
-    EXPECT_EQ(box.Tag, "%");
-    EXPECT_EQ(list->GetSelectedKey(), "%");
+    EXPECT_EQ(std::tuple(box.Text(), box.Tag, list->GetSelectedKey()), std::tuple("ALL CUSTOMERS", "%", "%"));
 }
 
 TEST_F(AutoListTest, APickWritesTextThenTagWithTheListShut) {

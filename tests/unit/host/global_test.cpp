@@ -1,5 +1,7 @@
 // The host's global routines: documents and their references, lookups, units of
 // measure, focus and keys.
+#include <tuple>
+
 #include "host_fixture.h"
 #include "platform/controls.h"
 #include "platform/convert.h"
@@ -62,11 +64,12 @@ TEST_F(GlobalTest, ReferencesSplitIntoLeadAndNumber) {
 }
 
 TEST_F(GlobalTest, LookupsEscapeTheirValues) {
-    EXPECT_EQ(global().LookupName("Customer", "CustomerID", "Company_Name", "C2"), "O'Brien Stores");
-    EXPECT_EQ(global().LookupCode("Customer", "CustomerID", "Company_Name", "O'Brien Stores"), "C2");
-    EXPECT_EQ(global().LookupCode("Customer", "CustomerID", "Company_Name", "x' Or '1' = '1"), "");
-    EXPECT_EQ(global().LookupName("Customer", "CustomerID", "Company_Name", "C9"), "");
-    EXPECT_TRUE(global().LookupValue(*connection, "Select Company_Name From Customer Where 1 = 0").IsNull());
+    EXPECT_EQ(std::tuple(global().LookupName("Customer", "CustomerID", "Company_Name", "C2"),
+                         global().LookupCode("Customer", "CustomerID", "Company_Name", "O'Brien Stores"),
+                         global().LookupCode("Customer", "CustomerID", "Company_Name", "x' Or '1' = '1"),
+                         global().LookupName("Customer", "CustomerID", "Company_Name", "C9"),
+                         global().LookupValue(*connection, "Select Company_Name From Customer Where 1 = 0").IsNull()),
+              std::tuple("O'Brien Stores", "C2", "", "", true));
     for (const auto& [reference, found] :
          std::vector<std::pair<std::string, std::string>>{{"SC12", "12"}, {"12", "12"}, {"SC99", ""}, {"SC", ""}})
         EXPECT_EQ(platform::ToText(global().LookupFieldByKey("SOAbstract", "SONumber", reference)), found) << reference;

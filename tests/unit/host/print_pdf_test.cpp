@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <tuple>
 
 #include <cstdio>
 #include <filesystem>
@@ -132,9 +133,8 @@ TEST(NoteLayoutTest, ShowsOnlyWhatTheProceduresAnswered) {
     std::vector<std::string> headings;
     for (const auto& column : layout.columns) headings.push_back(column.heading);
     EXPECT_EQ(headings, (std::vector<std::string>{"#", "Code", "Unit", "Qty", "Value"}));
-    EXPECT_FALSE(layout.rows[0].free);
-    EXPECT_TRUE(layout.rows[1].free);
-    EXPECT_EQ(layout.rows[1].cells[4], "Free");
+    EXPECT_EQ(std::tuple(layout.rows[0].free, layout.rows[1].free, layout.rows[1].cells[4]),
+              std::tuple(false, true, "Free"));
     EXPECT_EQ(layout.totals[3], "") << "boxes and pieces are not added up";
     EXPECT_EQ(layout.totals[4], "40.00");
 }

@@ -1,5 +1,6 @@
 // The runtime's conversions: dates, numbers and text, rounding, and Format.
 #include <gtest/gtest.h>
+#include <tuple>
 
 #include <limits>
 #include <string>
@@ -106,9 +107,8 @@ TEST(IsNumeric, AcceptsWhatTheRuntimeAccepted) {
         {"1e", false},  {",5", false},    {"&H", false}, {"&HFG", false}, {"1.2.3", false}, {"--1", false},
     };
     for (const auto& c : cases) EXPECT_EQ(IsNumericText(c.text), c.numeric) << '"' << c.text << '"';
-    EXPECT_TRUE(IsNumeric(Value()));
-    EXPECT_TRUE(IsNumeric(Value(true)));
-    EXPECT_FALSE(IsNumeric(Value::Null()));
+    EXPECT_EQ(std::tuple(IsNumeric(Value()), IsNumeric(Value(true)), IsNumeric(Value::Null())),
+              std::tuple(true, true, false));
     EXPECT_FALSE(IsNumeric(Value(Date{1.0})));
     EXPECT_FALSE(IsNumeric(Value("x")));
 }
@@ -164,10 +164,8 @@ TEST(CIntCLngIntFix, RoundOrCutWithinTheirRange) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.value);
-        EXPECT_EQ(CInt(c.value), c.cint);
-        EXPECT_EQ(CLng(c.value), c.clng);
-        EXPECT_EQ(Int(c.value), c.intPart);
-        EXPECT_EQ(Fix(c.value), c.fixPart);
+        EXPECT_EQ(std::tuple(CInt(c.value), CLng(c.value), Int(c.value), Fix(c.value)),
+                  std::tuple(c.cint, c.clng, c.intPart, c.fixPart));
     }
     for (double outside : {32767.5, -32768.51, 40000.0, std::numeric_limits<double>::quiet_NaN()})
         EXPECT_EQ(ErrorNumberOf([=] { CInt(outside); }), err::Overflow) << outside;
@@ -193,9 +191,8 @@ TEST(TextFunctions, TrimCaseSplitAndReplaceAsTheRuntimeDid) {
     EXPECT_EQ(Split("a, b, c", ", "), (Pieces{"a", "b", "c"}));
     EXPECT_EQ(Split("a,b", ""), Pieces{"a,b"});
 
-    EXPECT_EQ(Replace("aaa", "aa", "b"), "ba");
-    EXPECT_EQ(Replace("abc", "", "x"), "abc");
-    EXPECT_EQ(Replace("abcabc", "bc", ""), "aa");
+    EXPECT_EQ(std::tuple(Replace("aaa", "aa", "b"), Replace("abc", "", "x"), Replace("abcabc", "bc", "")),
+              std::tuple("ba", "abc", "aa"));
 }
 
 struct FormatCase {

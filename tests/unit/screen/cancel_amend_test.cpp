@@ -2,6 +2,7 @@
 // table and the grid as they were, a quote in the remarks is doubled, and of two
 // clerks changing the same note only one gets through.
 #include <functional>
+#include <tuple>
 #include <utility>
 
 #include "grid/row_model/grid_columns.h"
@@ -145,9 +146,10 @@ TEST_F(StoredNoteTest, OfTwoClerksCancellingOneNoteTheSecondIsRefusedByTheDataba
     EXPECT_EQ(second.transcript.ErrorCount(), 1) << "the database refused the second close";
     EXPECT_FALSE(two.bInTransaction);
     // Batch 2's 48 pieces, the openings after the note's day and the reversing rows, once.
-    EXPECT_EQ(Scalar("SELECT Quantity FROM Batch_Products WHERE Batch_Code = 2"), "1248");
-    EXPECT_EQ(Scalar("SELECT Opening_Quantity FROM OpeningDetails WHERE Product_Code = 'FD001' LIMIT 1"), "4368");
-    EXPECT_EQ(Scalar("SELECT COUNT(*) FROM JournalPostings WHERE DocumentID = 8"), "2");
+    EXPECT_EQ(std::tuple(Scalar("SELECT Quantity FROM Batch_Products WHERE Batch_Code = 2"),
+                         Scalar("SELECT Opening_Quantity FROM OpeningDetails WHERE Product_Code = 'FD001' LIMIT 1"),
+                         Scalar("SELECT COUNT(*) FROM JournalPostings WHERE DocumentID = 8")),
+              std::tuple("1248", "4368", "2"));
 }
 
 }  // namespace

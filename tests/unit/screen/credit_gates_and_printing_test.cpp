@@ -2,6 +2,7 @@
 // note is printed.
 #include <filesystem>
 #include <fstream>
+#include <tuple>
 
 #include "grid/row_model/grid_columns.h"
 #include "screen_fixture.h"
@@ -86,9 +87,11 @@ TEST_F(CreditGates, APrimaryRowsNameExplainsAFreeRowThatCannotBeFilled) {
     grid.SetCell(1, grid::colItemCode, "FD001");
     grid.SetCell(2, grid::colItemCode, "FD002");
     grid.SetCell(3, grid::colItemCode, "FD005");
-    EXPECT_EQ(f.GetPrimaryItemName(3, "2", ""), "Free SKU not available. You cannot sale this SKU - FD002");
-    EXPECT_EQ(f.GetPrimaryItemName(3, "", "1"), "Free SKU not available. You cannot sale this SKU - FD001");
-    EXPECT_EQ(f.GetPrimaryItemName(3, "0", "0"), "Free SKU not available. You cannot save this Invoice.");
+    EXPECT_EQ(std::tuple(f.GetPrimaryItemName(3, "2", ""), f.GetPrimaryItemName(3, "", "1"),
+                         f.GetPrimaryItemName(3, "0", "0")),
+              std::tuple("Free SKU not available. You cannot sale this SKU - FD002",
+                         "Free SKU not available. You cannot sale this SKU - FD001",
+                         "Free SKU not available. You cannot save this Invoice."));
     grid.SetCell(3, grid::colItemCheck, "x");
     EXPECT_EQ(f.GetPrimaryItemName(3, "", ""), "Insufficient stock for - FD005");
 }

@@ -1,4 +1,6 @@
 // Choosing the customer, what comes with it, and the credit line.
+#include <tuple>
+
 #include "screen_fixture.h"
 
 namespace screen_test {
@@ -52,9 +54,7 @@ TEST_F(CustomerEntry, SmallHelpers) {
     EXPECT_EQ(Zuro_frmDispatch_Dispatch::DoubleQuotes("Devi's O'Mart"), "Devi''s O''Mart");
     int key = 'q';
     Zuro_frmDispatch_Dispatch::ToUpperKey(key);
-    EXPECT_EQ(key, 'Q');
-    EXPECT_TRUE(f.IsTradeCustomer("C001"));
-    EXPECT_FALSE(f.IsTradeCustomer("C007"));
+    EXPECT_EQ(std::tuple(key, f.IsTradeCustomer("C001"), f.IsTradeCustomer("C007")), std::tuple('Q', true, false));
 }
 
 TEST_F(CustomerEntry, CtrlF7AsksForAFormTheScreenNeverMakes) {

@@ -3,6 +3,7 @@
 // customer's text, the stored notes' status bits no demo note carries, and the
 // not-found dialog of a purchase order.
 #include <memory>
+#include <tuple>
 
 #include "lists/stored_note_words.h"
 #include "platform/recording_connection.h"
@@ -70,10 +71,8 @@ TEST_F(DocumentLists, StatusWordsAreAskedCancelledThenAmendedThenClosed) {
     EXPECT_EQ(word(192 | 256 | 1, false), "Cancelled");
     EXPECT_EQ(word(385, true), "Amended");
     // The closed bit reads as invoiced whatever the invoice flag says.
-    EXPECT_EQ(word(129, false), "Invoiced");
-    EXPECT_EQ(word(128, true), "Invoiced");
-    EXPECT_EQ(word(4, true), "Closed");
-    EXPECT_EQ(word(0, false), "Pending");
+    EXPECT_EQ(std::tuple(word(129, false), word(128, true), word(4, true), word(0, false)),
+              std::tuple("Invoiced", "Invoiced", "Closed", "Pending"));
 }
 
 TEST_F(DocumentLists, OnlyAnOrderWithItemsTheMasterDoesNotKnowShowsTheDialog) {

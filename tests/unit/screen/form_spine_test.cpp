@@ -1,4 +1,6 @@
 // Opening the screen in each mode, the grid's columns, and closing it.
+#include <tuple>
+
 #include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
 #include "screen_fixture.h"
@@ -17,13 +19,11 @@ TEST_F(FormSpine, TheGridHasItsFortyThreeColumns) {
     // The clerk sees six columns, in twips; the rest are the rows' hidden memory.
     const int kShownWidths[] = {1200, 2500, 1000, 800, 1200, 1000};
     for (int col = 1; col <= 43; ++col) EXPECT_EQ(grid.ColWidth(col), col <= 6 ? kShownWidths[col - 1] : 0) << col;
-    EXPECT_TRUE(grid.ColLocked(grid::colBatch));
-    EXPECT_TRUE(grid.ColLocked(grid::colUOM));
-    EXPECT_TRUE(grid.ColLocked(grid::colSalePrice));
-    EXPECT_FALSE(grid.ColLocked(grid::colQuantity));
-    EXPECT_EQ(grid.ColInputClass(grid::colQuantity), 4);
-    EXPECT_EQ(grid.ColNext(grid::colItemName), grid::colQuantity);
-    EXPECT_FALSE(grid.ColListAuto(grid::colUOM));
+    EXPECT_EQ(
+        std::tuple(grid.ColLocked(grid::colBatch), grid.ColLocked(grid::colUOM), grid.ColLocked(grid::colSalePrice),
+                   grid.ColLocked(grid::colQuantity), grid.ColInputClass(grid::colQuantity),
+                   grid.ColNext(grid::colItemName), grid.ColListAuto(grid::colUOM)),
+        std::tuple(true, true, true, false, 4, grid::colQuantity, false));
 }
 
 TEST_F(FormSpine, EachModeTitlesItsFrameAndSetsUpItsGrid) {
@@ -44,12 +44,10 @@ TEST_F(FormSpine, EachModeTitlesItsFrameAndSetsUpItsGrid) {
           Expected{5, "Cancel Dispatch", false, 0, false, false}}) {
         SCOPED_TRACE("mode " + std::to_string(e.mode));
         Zuro_frmDispatch_Dispatch& f = Open(e.mode);
-        EXPECT_EQ(f.FieldText("objLink"), e.title);
-        EXPECT_EQ(f.DTFlexDispatch.ColLocked(grid::colItemCode), e.itemsLocked);
-        EXPECT_EQ(f.DTFlexDispatch.ColLocked(grid::colItemName), e.itemsLocked);
-        EXPECT_EQ(f.DTFlexDispatch.LastEntryCol, e.lastEntryCol);
-        EXPECT_EQ(f.DTFlexDispatch.AllowAddRows, e.addRows);
-        EXPECT_EQ(f.DTFlexDispatch.AllowDeleteRows, e.deleteRows);
+        EXPECT_EQ(std::tuple(f.FieldText("objLink"), f.DTFlexDispatch.ColLocked(grid::colItemCode),
+                             f.DTFlexDispatch.ColLocked(grid::colItemName), f.DTFlexDispatch.LastEntryCol,
+                             f.DTFlexDispatch.AllowAddRows, f.DTFlexDispatch.AllowDeleteRows),
+                  std::tuple(e.title, e.itemsLocked, e.itemsLocked, e.lastEntryCol, e.addRows, e.deleteRows));
         f.Close();
     }
 }
@@ -86,9 +84,8 @@ TEST_F(FormSpine, TheMemoButtonKeepsWhatTheUserAccepted) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     answers.Queue("ShowMemoDialog", {"first", "second", "third", "ok"});
     f.cmdMemo.Click.Raise();
-    EXPECT_EQ(f.szMemo1, "first");
-    EXPECT_EQ(f.szMemo3, "third");
-    EXPECT_EQ(LastStatus(), "Memo fields added successfully");
+    EXPECT_EQ(std::tuple(f.szMemo1, f.szMemo3, LastStatus()),
+              std::tuple("first", "third", "Memo fields added successfully"));
     EXPECT_EQ(f.ActiveControl(), &f.cmdSave);
 
     answers.Queue("ShowMemoDialog", {"changed", "", "", "cancel"});

@@ -1,5 +1,6 @@
 // The grid's keys and rows: free rows that cannot be typed in, deleting a line with
 // its free rows, the links that close up behind it, and the grid's two ends.
+#include <tuple>
 #include <vector>
 
 #include "grid/row_model/grid_columns.h"
@@ -223,14 +224,9 @@ TEST_F(GridKeysRows, TheLastRowDeletedForgetsTheSchemeRuns) {
     f.txtCustomer.Tag = "C003";
     f.DTFlexDispatch.UserDeleteRow(1);
     ASSERT_EQ(f.DTFlexDispatch.GridRows(), 1);
-    EXPECT_TRUE(f.arrPrevSKU.empty());
-    EXPECT_TRUE(f.arrCurrSKU.empty());
-    EXPECT_EQ(f.nPrevSKUCount, 0);
-    EXPECT_EQ(f.nCurrSKUCount, 0);
-    EXPECT_EQ(f.nPrimaryRowCount, 0);
-    EXPECT_FALSE(f.bSplCatRefused);
-    EXPECT_FALSE(f.bSplCatFreeMissing);
-    EXPECT_EQ(f.szSchemeCustomer, "C003");
+    EXPECT_EQ(std::tuple(f.arrPrevSKU.empty(), f.arrCurrSKU.empty(), f.nPrevSKUCount, f.nCurrSKUCount,
+                         f.nPrimaryRowCount, f.bSplCatRefused, f.bSplCatFreeMissing, f.szSchemeCustomer),
+              std::tuple(true, true, 0, 0, 0, false, false, "C003"));
 }
 
 TEST_F(GridKeysRows, PastTheLastRowOfLinesSaveTakesTheFocus) {

@@ -1,5 +1,7 @@
 // An item typed by code or name, and the price and flags the line takes from the
 // item master.
+#include <tuple>
+
 #include "screen_fixture.h"
 
 namespace screen_test {
@@ -52,9 +54,8 @@ TEST_F(ItemPricing, AnEmptiedItemCellGivesUpTheRowWithoutCancelling) {
     SetCell(grid::colItemName, "Marie Biscuit 100g");
     SetCell(grid::colItemCode, "FD002", 2);
     EXPECT_FALSE(EndEdit(grid::colItemCode));
-    EXPECT_EQ(LastStatus(), "Invalid Item Code has been entered.");
-    EXPECT_EQ(grid.GridRows(), 1);
-    EXPECT_EQ(Cell(grid::colItemCode), "FD002");
+    EXPECT_EQ(std::tuple(LastStatus(), grid.GridRows(), Cell(grid::colItemCode)),
+              std::tuple("Invalid Item Code has been entered.", 1, "FD002"));
 }
 
 TEST_F(ItemPricing, ItemPropertiesAndTheNotesValue) {
@@ -64,9 +65,9 @@ TEST_F(ItemPricing, ItemPropertiesAndTheNotesValue) {
         form->GetItemProperty(code, col, value);
         return value;
     };
-    EXPECT_EQ(property("HC001", grid::colPriceOption), 1);
-    EXPECT_EQ(property("PM001", grid::colTrackInventory), 0);
-    EXPECT_EQ(property("FD001", grid::colBatchTrack), 1);
+    EXPECT_EQ(std::tuple(property("HC001", grid::colPriceOption), property("PM001", grid::colTrackInventory),
+                         property("FD001", grid::colBatchTrack)),
+              std::tuple(1, 0, 1));
     EXPECT_EQ(property("FD001", grid::colQuantity), 0) << "only columns 9, 10 and 12 are properties";
     EXPECT_EQ(property("ZZ999", grid::colBatchTrack), 0);
 

@@ -1,4 +1,6 @@
 // The checks of a quantity typed in a line: its syntax, its size, and the stock.
+#include <tuple>
+
 #include "screen_fixture.h"
 
 namespace screen_test {
@@ -24,9 +26,8 @@ TEST_F(QuantityEntry, AQuantityAboveTheStockIsRefusedAndOneWithinItPasses) {
     EXPECT_TRUE(form->bQtyRefused);
 
     EXPECT_FALSE(Quantity("100"));  // exactly the 2400 there are
-    EXPECT_FALSE(form->bQtyRefused);
-    EXPECT_FALSE(form->bQtySyntaxError);
-    EXPECT_EQ(Cell(grid::colPrevQty), "100");
+    EXPECT_EQ(std::tuple(form->bQtyRefused, form->bQtySyntaxError, Cell(grid::colPrevQty)),
+              std::tuple(false, false, "100"));
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
@@ -65,8 +66,8 @@ TEST_F(QuantityEntry, AnIgnoredFreeItemWarnsWithoutRefusingTheEdit) {
     MarieInBoxes();
     SetCell(grid::colFreeItmIgnored, "1");
     EXPECT_FALSE(Quantity("10"));
-    EXPECT_EQ(LastStatus(), "Free SKU is not available/Selected. You cannot save this Dispatch.");
-    EXPECT_TRUE(form->bQtyRefused);
+    EXPECT_EQ(std::tuple(LastStatus(), form->bQtyRefused),
+              std::tuple("Free SKU is not available/Selected. You cannot save this Dispatch.", true));
 }
 
 TEST_F(QuantityEntry, InAnAmendmentTheSelectedBatchEntryBoundsTheQuantity) {
@@ -131,10 +132,8 @@ TEST_F(QuantityEntry, TheGridKeepsARefusedQuantityOpenForCorrection) {
     grid.UserGoto(1, grid::colQuantity);
     grid.UserType("2*3");
     grid.UserKey(13);
-    EXPECT_TRUE(grid.Editing());
-    EXPECT_EQ(grid.EditText(), "2*3");
-    EXPECT_EQ(LastStatus(), kSyntax);
-    EXPECT_TRUE(form->bQtySyntaxError);
+    EXPECT_EQ(std::tuple(grid.Editing(), grid.EditText(), LastStatus(), form->bQtySyntaxError),
+              std::tuple(true, "2*3", kSyntax, true));
     EXPECT_EQ(Cell(grid::colSerialNo), "") << "a refused quantity gives no serial";
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }

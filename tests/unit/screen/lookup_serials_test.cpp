@@ -1,5 +1,7 @@
 // Row serials: giving them out, finding a row by its serial, and the merge walk that
 // acts on every row a list of serials names.
+#include <tuple>
+
 #include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
 #include "screen_fixture.h"
@@ -72,16 +74,14 @@ TEST_F(RowSerials, ACounterBeyondSixteenBitsIsAnOverflowAndChangesNothing) {
     Rows({1, 0});
     f.nSerialCounter = 32767;
     Serial(2);
-    EXPECT_EQ(SerialOf(2), "");
-    EXPECT_EQ(f.nSerialCounter, 32767);
-    EXPECT_TRUE(TranscriptHas("Zuro_frmDispatch_Dispatch : Add_Unique_Serial - Overflow"));
+    EXPECT_EQ(std::tuple(SerialOf(2), f.nSerialCounter,
+                         TranscriptHas("Zuro_frmDispatch_Dispatch : Add_Unique_Serial - Overflow")),
+              std::tuple("", 32767, true));
 }
 
 TEST_F(RowSerials, GetRowNumberFindsTheRowNotThePlaceInTheList) {
     Rows({3, 8, 5});
-    EXPECT_EQ(f.getRowNumber(8), 2);
-    EXPECT_EQ(f.getRowNumber(5), 3);
-    EXPECT_EQ(f.getRowNumber(4), 0);
+    EXPECT_EQ(std::tuple(f.getRowNumber(8), f.getRowNumber(5), f.getRowNumber(4)), std::tuple(2, 3, 0));
 }
 
 TEST_F(RowSerials, RemovingByAListTakesOnlyFreeRows) {

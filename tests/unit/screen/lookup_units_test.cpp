@@ -1,5 +1,7 @@
 // A row's unit of measure: the ladder loaded into lstUOM and the row, the slash walk
 // through the units, a choice from the list, and the check of multi-unit quantities.
+#include <tuple>
+
 #include "screen_fixture.h"
 
 namespace screen_test {
@@ -137,9 +139,8 @@ TEST_F(UnitsOfMeasure, CopyFindsTheQuantityColumnAndPasteAddsNothing) {
     auto& grid = f.DTFlexDispatch;
     grid.SetCell(1, grid::colQuantity, " 12 ");
     grid.SetGridRows(2);
-    EXPECT_EQ(f.FindQuantityColumn(grid, 1), grid::colQuantity);
-    EXPECT_EQ(f.GetGridQuantity(grid, 1), "12");
-    EXPECT_EQ(f.FirstBlankGridRow(grid), 2);
+    EXPECT_EQ(std::tuple(f.FindQuantityColumn(grid, 1), f.GetGridQuantity(grid, 1), f.FirstBlankGridRow(grid)),
+              std::tuple(grid::colQuantity, "12", 2));
     f.CopyGridItems(grid);
     f.PasteGridItems(grid);
     EXPECT_EQ(grid.GridRows(), 2);

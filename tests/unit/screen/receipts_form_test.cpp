@@ -3,6 +3,7 @@
 // marks.
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "platform/fault_connection.h"
@@ -151,9 +152,9 @@ TEST_F(Receipts, ANumberColumnIsClearedAndLockedWhileItsRowsMarkSaysNo) {
     OpenAll();
     const int had = Row(506), none = Row(503);
     Choose(had, col::CForm, 1);
-    EXPECT_EQ(f->dtInvoice.GetCell(had, col::CFormNo), "");
-    EXPECT_TRUE(f->dtInvoice.ColLocked(col::CFormNo));
-    EXPECT_FALSE(f->lstYesNo.Visible);
+    EXPECT_EQ(
+        std::tuple(f->dtInvoice.GetCell(had, col::CFormNo), f->dtInvoice.ColLocked(col::CFormNo), f->lstYesNo.Visible),
+        std::tuple("", true, false));
 
     // The lock is the whole column's, as the last mark chosen left it.
     Choose(none, col::CForm, 0);

@@ -3,6 +3,7 @@
 // DS type sells, and a line whose item was taken away. Nothing refused is written.
 #include <memory>
 #include <string>
+#include <tuple>
 
 #include "grid/row_model/grid_columns.h"
 #include "platform/recording_connection.h"
@@ -64,10 +65,8 @@ TEST_F(SaveButton, ALineWhoseItemWasTakenAwayStopsTheSaveAtItsRow) {
     RaviNote();
     SetCell(colItemCode, "");
     f.cmdSave_Click();
-    EXPECT_EQ(LastStatus(), "Invalid Item selected");
-    EXPECT_EQ(f.DTFlexDispatch.GridRow(), 1);
-    EXPECT_EQ(f.DTFlexDispatch.GridCol(), colItemName);
-    EXPECT_EQ(Notes(), "9");
+    EXPECT_EQ(std::tuple(LastStatus(), f.DTFlexDispatch.GridRow(), f.DTFlexDispatch.GridCol(), Notes()),
+              std::tuple("Invalid Item selected", 1, colItemName, "9"));
 }
 
 TEST_F(SaveButton, HealthCareItemsWithAPriceNeedACustomerWithADrugLicence) {

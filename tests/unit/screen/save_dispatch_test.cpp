@@ -1,5 +1,7 @@
 // Saving a keyed note: what is stored, and that a save failing at any call, or
 // refused for stock or credit, leaves every table and the grid as they were.
+#include <tuple>
+
 #include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
 #include "platform/fault_connection.h"
@@ -82,12 +84,10 @@ TEST_F(SaveTest, AStockRefusalOnTheLastRowTakesTheWholeNoteBack) {
 
     EXPECT_FALSE(f.SaveDispatch());
 
-    EXPECT_TRUE(Tables() == tables);
-    EXPECT_EQ(GridCells(), cells);
-    EXPECT_TRUE(TranscriptHas("status 1 Insufficient stock for Cream Biscuit 75g"));
-    EXPECT_EQ(f.DTFlexDispatch.GridRow(), 2);
-    EXPECT_EQ(f.DTFlexDispatch.GridCol(), grid::colSalePrice);
-    EXPECT_EQ(f.ActiveControl(), &f.DTFlexDispatch);
+    EXPECT_EQ(
+        std::tuple(Tables() == tables, GridCells(), TranscriptHas("status 1 Insufficient stock for Cream Biscuit 75g"),
+                   f.DTFlexDispatch.GridRow(), f.DTFlexDispatch.GridCol(), f.ActiveControl()),
+        std::tuple(true, cells, true, 2, grid::colSalePrice, &f.DTFlexDispatch));
     EXPECT_FALSE(f.bQtyRefused) << "a row at the item's price leaves the quantity standing";
 
     // At the customer's price the same refusal marks the row's quantity refused.

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <random>
 #include <string>
+#include <tuple>
 
 #include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
@@ -76,10 +77,9 @@ TEST(SlabCount, AgreesWhereTheDividerIsFinerThanTheDividend) {
 
 TEST(SlabCount, TheFiguresTheSchemesDependOn) {
     // 0.3 into 0.9, three times where plain division of doubles gives 2, is the schemes session's.
-    EXPECT_EQ(CountBySubtraction(5, 5), 1);
-    EXPECT_EQ(CountBySubtraction(4.99, 5), 0);
-    EXPECT_EQ(CountBySubtraction(0, 5), 0);
-    EXPECT_EQ(CountBySubtraction(-10, 5), 0);
+    EXPECT_EQ(std::tuple(CountBySubtraction(5, 5), CountBySubtraction(4.99, 5), CountBySubtraction(0, 5),
+                         CountBySubtraction(-10, 5)),
+              std::tuple(1, 0, 0, 0));
     EXPECT_EQ(CountBySubtraction(-10, -5), 0);  // the divider does not fit at all
     EXPECT_EQ(CountBySubtraction(648, 500), 1);
     EXPECT_EQ(CountBySubtraction(1000, 0.1), 10000);
@@ -87,10 +87,9 @@ TEST(SlabCount, TheFiguresTheSchemesDependOn) {
 
 TEST(SlabCount, LargeCountsAnswerAtOnce) {
     const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(CountBySubtraction(1'000'000, 1), 1'000'000);
-    EXPECT_EQ(CountBySubtraction(1e9, 1), 1e9);
-    EXPECT_EQ(CountBySubtraction(1e9 + 0.5, 0.1), 10'000'000'005);
-    EXPECT_EQ(CountBySubtraction(123456789012.345, 0.005), 24691357802469);
+    EXPECT_EQ(std::tuple(CountBySubtraction(1'000'000, 1), CountBySubtraction(1e9, 1),
+                         CountBySubtraction(1e9 + 0.5, 0.1), CountBySubtraction(123456789012.345, 0.005)),
+              std::tuple(1'000'000, 1e9, 10'000'000'005, 24691357802469));
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(200));
 }
 
@@ -143,9 +142,9 @@ TEST_F(SchemeData, UnitFactorsOfSlabsAndFreeGoods) {
 }
 
 TEST_F(SchemeData, ApplicableQuantityCountsStepsOfTheSlabUnit) {
-    EXPECT_EQ(f.GetApplicableQuantity(12, 3000, 2, 5), 2);
-    EXPECT_EQ(f.GetApplicableQuantity(12, 3000, 4, 1000), 3);
-    EXPECT_EQ(f.GetApplicableQuantity(12, 3000, 7, 5), 0);
+    EXPECT_EQ(std::tuple(f.GetApplicableQuantity(12, 3000, 2, 5), f.GetApplicableQuantity(12, 3000, 4, 1000),
+                         f.GetApplicableQuantity(12, 3000, 7, 5)),
+              std::tuple(2, 3, 0));
     // A step of 0 never reaches the count; one below 0 is refused and logged.
     EXPECT_EQ(f.getQuotient(10, -1), 0);
     EXPECT_TRUE(TranscriptHas("mdlGlobal : getQuotient - ")) << ErrorLines();
@@ -176,9 +175,9 @@ TEST_F(SchemeData, ARowAndTheGridInBaseUnits) {
 
 TEST_F(SchemeData, DetailStringsAndTheSixteenBitScheme) {
     using Form = screen::Zuro_frmDispatch_Dispatch;
-    EXPECT_EQ(Form::MultiSchemeDetail(201, 2011), "201|2011|0|0");
-    EXPECT_EQ(Form::MultiSpecialCatSchemeDetail(301, 3011), "301|3011|0|0");
-    EXPECT_EQ(Form::MultiSchemeDetail(40000, 1), "40000|1|0|0");
+    EXPECT_EQ(std::tuple(Form::MultiSchemeDetail(201, 2011), Form::MultiSpecialCatSchemeDetail(301, 3011),
+                         Form::MultiSchemeDetail(40000, 1)),
+              std::tuple("201|2011|0|0", "301|3011|0|0", "40000|1|0|0"));
     try {
         Form::MultiSpecialCatSchemeDetail(40000, 1);
         ADD_FAILURE() << "a scheme above 16 bits was written";

@@ -2,6 +2,7 @@
 // share, the pass rebuilt only when something changed, its refusal, and the
 // clearing of its free rows with the drift the screen has always had.
 #include <memory>
+#include <tuple>
 
 #include "platform/recording_connection.h"
 #include "schemes_fixture.h"
@@ -87,10 +88,8 @@ TEST_F(SpecialCategory, ARefusedFreeItemStopsThePassUntilItCanBeHad) {
     Line("FD003", 20);
     Line("PC003", 1);
     Click();
-    EXPECT_EQ(LastStatus(), "Free SKU is not available/Selected. You cannot save this Dispatch.");
-    EXPECT_EQ(LastStatusKind(), 1);
-    EXPECT_TRUE(form->bSplCatRefused);
-    EXPECT_FALSE(form->bSchemesApplied);
+    EXPECT_EQ(std::tuple(LastStatus(), LastStatusKind(), form->bSplCatRefused, form->bSchemesApplied),
+              std::tuple("Free SKU is not available/Selected. You cannot save this Dispatch.", 1, true, false));
     EXPECT_EQ(form->ActiveControl(), &form->cmdSave);
 
     // Nothing changed, but the refusal asks for the pass again.

@@ -1,6 +1,8 @@
 // The scheme button over item (SKU) schemes: what a first run adds, that a run with
 // nothing changed touches nothing, that a change reruns its item alone, and the
 // refusals. Item schemes applied to one line (FindDispatchSchemes) at the end.
+#include <tuple>
+
 #include "schemes_fixture.h"
 
 namespace screen_test {
@@ -140,21 +142,18 @@ TEST_F(SkuSchemes, AFreeItemThatCannotBeHadStopsTheItemAndIsRetriedNextTime) {
         Line("FS001", 3);
         if (!c.answer.empty()) Choose(c.answer);
         Click();
-        EXPECT_EQ(LastStatus(), c.words);
-        EXPECT_EQ(form->szFailedSKU, "FS001");
-        EXPECT_TRUE(form->bFreeItemMissing);
+        EXPECT_EQ(std::tuple(LastStatus(), form->szFailedSKU, form->bFreeItemMissing),
+                  std::tuple(c.words, "FS001", true));
         EXPECT_FALSE(form->bSchemeRunning);
-        EXPECT_FALSE(form->bSchemesApplied);
-        EXPECT_EQ(form->ActiveControl(), &form->cmdApplyScheme);
-        EXPECT_EQ(FreeRowsOf("PM002").size(), 0u);
+        EXPECT_EQ(std::tuple(form->bSchemesApplied, form->ActiveControl(), FreeRowsOf("PM002").size()),
+                  std::tuple(false, &form->cmdApplyScheme, 0u));
     }
     // Chosen this time: the item that failed gets its row.
     Choose("PM002");
     SetQuantity(1, 4);
     Click();
-    EXPECT_EQ(FreeRowsOf("PM002").size(), 1u);
-    EXPECT_EQ(form->szFailedSKU, "");
-    EXPECT_TRUE(form->bSchemesApplied);
+    EXPECT_EQ(std::tuple(FreeRowsOf("PM002").size(), form->szFailedSKU, form->bSchemesApplied),
+              std::tuple(1u, "", true));
     ExpectLinksHold();
 }
 
@@ -172,10 +171,9 @@ TEST_F(SkuSchemes, ALineOnItsOwnEarnsOrIsMarked) {
     ASSERT_EQ(free.size(), 1u);
     EXPECT_EQ(Cell(free[0], colQuantity), "2");
     EXPECT_EQ(Cell(fd003, colItemCheck), Cell(free[0], colSerialNo));
-    EXPECT_EQ(Cell(fd003, colSchemeID), "901");
-    EXPECT_EQ(Cell(free[0], colSchemeID), "901");
-    EXPECT_EQ(Cell(fd003, colSchemeCustID), form->txtCustomer.Text());
-    EXPECT_EQ(Cell(fs001, colFreeItmIgnored), "1");
+    EXPECT_EQ(std::tuple(Cell(fd003, colSchemeID), Cell(free[0], colSchemeID), Cell(fd003, colSchemeCustID),
+                         Cell(fs001, colFreeItmIgnored)),
+              std::tuple("901", "901", form->txtCustomer.Text(), "1"));
     EXPECT_FALSE(form->bSchemeRunning);
 }
 

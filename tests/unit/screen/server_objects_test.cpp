@@ -2,6 +2,7 @@
 // who is mapped to whom, which groups a salesman's DS type sells, the items a dispatch
 // may sell, whether a typed item is among them.
 #include <gtest/gtest.h>
+#include <tuple>
 
 #include <string>
 
@@ -87,9 +88,9 @@ TEST_F(ServerObjects, ItemsOfAListOfGroups) {
 }
 
 TEST_F(ServerObjects, GroupsGiveTheActiveItemsOfTheirCategories) {
-    EXPECT_EQ(Codes("dbo.Fn_Get_Items_QAX('2')"), "BV001;BV002;BV003");
-    EXPECT_EQ(Codes("dbo.Fn_Get_Items_QAX('2, 4')"), "BV001;BV002;BV003;HC001;HC002;HC003");
-    EXPECT_EQ(Codes("dbo.Fn_Get_Items_QAX('')"), "");
+    EXPECT_EQ(std::tuple(Codes("dbo.Fn_Get_Items_QAX('2')"), Codes("dbo.Fn_Get_Items_QAX('2, 4')"),
+                         Codes("dbo.Fn_Get_Items_QAX('')")),
+              std::tuple("BV001;BV002;BV003", "BV001;BV002;BV003;HC001;HC002;HC003", ""));
     // A switched-off item is not offered; the switched-off group's items are not in all groups.
     database->Execute("Update Items Set Active = 0 Where Product_Code = 'BV002'");
     EXPECT_EQ(Codes("dbo.Fn_Get_Items_QAX('2')"), "BV001;BV003");

@@ -1,6 +1,7 @@
 // Filling the grid from source documents: a ticked confirmation with nothing left, a
 // gone item on the last line, and the load-time scheme links no demo scheme reaches.
 #include <gtest/gtest.h>
+#include <tuple>
 
 #include "grid/row_model/grid_columns.h"
 #include "screen_fixture.h"
@@ -26,10 +27,9 @@ TEST_F(SourceLoadingTest, ASpentConfirmationGivesNoLines) {
     auto& g = Open(screen::mode::FromSalesConfirmation);
     TickConfirmation("9");
     g.LoadItemDetails();
-    EXPECT_TRUE(TranscriptHas("status 1 No details to display"));
-    EXPECT_EQ(LastStatus(), "Ready");
-    EXPECT_TRUE(g.Frame2.Enabled);
-    EXPECT_FALSE(g.Frame3.Enabled);
+    EXPECT_EQ(
+        std::tuple(TranscriptHas("status 1 No details to display"), LastStatus(), g.Frame2.Enabled, g.Frame3.Enabled),
+        std::tuple(true, "Ready", true, false));
 }
 
 TEST_F(SourceLoadingTest, ALastLineOfAnItemGoneFromTheMasterLeavesItsRowBehind) {
@@ -68,9 +68,9 @@ TEST_F(SourceLoadingTest, SameItemSchemeLinksTheLastFreeRowAndOtherItemSchemeLin
     // Soap: 144 meets 100 up (20 sachets) and band 144-287 (10), lowest start first.
     EXPECT_EQ(Cell(colItemCode, 4), "PC001");
     EXPECT_EQ(Cell(colItemCheck, 4), Cell(colSerialNo, 5) + "," + Cell(colSerialNo, 6));
-    EXPECT_EQ(Cell(colQuantity, 5) + "|" + Cell(colQuantity, 6), "2|1");
-    EXPECT_EQ(Cell(colPrimaryItemCode, 6), "PC001");
-    EXPECT_EQ(f.DTFlexDispatch.GridRows(), 6);
+    EXPECT_EQ(std::tuple(Cell(colQuantity, 5) + "|" + Cell(colQuantity, 6), Cell(colPrimaryItemCode, 6),
+                         f.DTFlexDispatch.GridRows()),
+              std::tuple("2|1", "PC001", 6));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 // scheme; then whether the demo's free goods can be had.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <tuple>
 
 #include <string>
 #include <vector>
@@ -112,9 +113,9 @@ TEST_F(SchemeProcedures, AnItemsSchemesAreThoseStandingWhoseSlabItsTotalReaches)
     const auto slab = [&](int type, int slabID, const char* item) {
         return Rows("sp_get_SKUBased_SchItemsDetail", {P(1), P("A1"), P(type), P(slabID), P(item)});
     };
-    EXPECT_EQ(slab(3, 12, "A1"), "1|10r|999r|2r|NULL|3|2|1440r|12");
-    EXPECT_EQ(slab(3, 0, "a1"), "1|2r|9r|1r|NULL|3|2|0r|11;1|10r|999r|2r|NULL|3|2|1440r|12");
-    EXPECT_EQ(slab(17, 12, "A1") + slab(3, 12, "B7") + slab(3, 21, "A1"), "");
+    EXPECT_EQ(
+        std::tuple(slab(3, 12, "A1"), slab(3, 0, "a1"), slab(17, 12, "A1") + slab(3, 12, "B7") + slab(3, 21, "A1")),
+        std::tuple("1|10r|999r|2r|NULL|3|2|1440r|12", "1|2r|9r|1r|NULL|3|2|0r|11;1|10r|999r|2r|NULL|3|2|1440r|12", ""));
 }
 
 TEST_F(SchemeProcedures, SpecialCategorySchemesTheirItemsAndMinimums) {

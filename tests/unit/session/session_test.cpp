@@ -1,6 +1,7 @@
 // The events a verb raises on the screen and their order, exit statuses, what show
 // prints, and how a session reports a wrong script or a failed check.
 #include <fmt/format.h>
+#include <tuple>
 
 #include "fake_screen.h"
 #include "platform/convert.h"
@@ -107,9 +108,9 @@ TEST_F(SessionTest, FailedChecksAndRefusedActionsAreReportedAndTheScriptGoesOn) 
     EXPECT_THAT(outcome.out, HasLine("status 1 Select an existing Customer."));
     EXPECT_THAT(outcome.out, HasLine("= close cancelled: the screen stays open"));
     EXPECT_THAT(outcome.out, HasLine("= screen closed"));
-    EXPECT_EQ(openings.screens.size(), 2u);
-    EXPECT_EQ(openings.screens[0]->txtLocked.Text(), "");
-    EXPECT_EQ(openings.screens[1]->txtCustomer.Text(), "off");
+    EXPECT_EQ(std::tuple(openings.screens.size(), openings.screens[0]->txtLocked.Text(),
+                         openings.screens[1]->txtCustomer.Text()),
+              std::tuple(2u, "", "off"));
     const auto& events = openings.screens[0]->events;
     EXPECT_EQ(std::count(events.begin(), events.end(), "cmdSave.Click"), 1);
 }

@@ -59,8 +59,7 @@ TEST_F(GlobalTest, ReferencesSplitIntoLeadAndNumber) {
         EXPECT_EQ(global().ParseDocumentNumber(c.reference), c.number) << c.reference;
         EXPECT_EQ(global().GetDocumentPrefixLength(c.reference), c.prefix) << c.reference;
     }
-    EXPECT_EQ(global().ParseDocumentNumber(""), 0);
-    EXPECT_EQ(global().GetVoucherPrefix("NO SUCH"), "");
+    EXPECT_EQ(std::tuple(global().ParseDocumentNumber(""), global().GetVoucherPrefix("NO SUCH")), std::tuple(0, ""));
 }
 
 TEST_F(GlobalTest, LookupsEscapeTheirValues) {
@@ -88,8 +87,7 @@ TEST_F(GlobalTest, NextRecordsetLeavesTheCallersSetAndFallsBackOnAnEmptyResult) 
     auto result =
         global().NextRecordset(std::make_shared<platform::Recordset>(std::vector<ResultSet>{rowCount, empty}));
     ASSERT_TRUE(result);
-    EXPECT_EQ(result->FieldName(0), "a");
-    EXPECT_TRUE(result->Eof());
+    EXPECT_EQ(std::tuple(result->FieldName(0), result->Eof()), std::tuple("a", true));
     EXPECT_EQ(global().NextRecordset(nullptr), nullptr);
 }
 
@@ -127,8 +125,7 @@ TEST_F(GlobalTest, QuantityExpressionsAlignToTheBaseUnitOnTheRight) {
     double base = 0;
     int parts = 0;
     EXPECT_TRUE(global().ValidateUOMQuantity("THREE", "2*0*5", parts, base));
-    EXPECT_EQ(parts, 3);
-    EXPECT_EQ(base, 2 * 144 + 5);
+    EXPECT_EQ(std::tuple(parts, base), std::tuple(3, 2 * 144 + 5));
     struct Case {
         const char* item;
         const char* text;

@@ -121,14 +121,11 @@ TEST(NoteLayoutTest, ShowsOnlyWhatTheProceduresAnswered) {
     note.rows = {{"A1", "BOX", 2.0, 40.0, ""}, {"A2", "PCS", 3.0, 0.0, "Free"}};
     const host::NoteLayout layout = host::LayOutNote(note);
 
-    EXPECT_EQ(layout.number, "DN7");
-    EXPECT_EQ(layout.date, "");
+    EXPECT_EQ(std::tuple(layout.number, layout.date), std::tuple("DN7", ""));
     ASSERT_EQ(layout.parties.size(), 1u);
-    EXPECT_EQ(layout.parties[0].name, "Acme");
-    EXPECT_TRUE(layout.parties[0].lines.empty());
+    EXPECT_EQ(std::tuple(layout.parties[0].name, layout.parties[0].lines.empty()), std::tuple("Acme", true));
     ASSERT_EQ(layout.details.size(), 1u);
-    EXPECT_EQ(layout.details[0].second, "TN 01 AB 1234");
-    EXPECT_TRUE(layout.remarks.empty());
+    EXPECT_EQ(std::tuple(layout.details[0].second, layout.remarks.empty()), std::tuple("TN 01 AB 1234", true));
 
     std::vector<std::string> headings;
     for (const auto& column : layout.columns) headings.push_back(column.heading);

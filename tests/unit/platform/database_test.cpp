@@ -1,5 +1,6 @@
 // The database layer: the recordset, and the connections that inject faults and record calls.
 #include <gtest/gtest.h>
+#include <tuple>
 
 #include <memory>
 #include <string>
@@ -43,8 +44,7 @@ TEST(Recordset, NextRecordsetStepsThroughEverySetThenCloses) {
     ResultSet answer{{"Serial"}, {{Value(42)}}};
     Recordset set(std::vector<ResultSet>{rowCount, answer, Customers()});
 
-    EXPECT_EQ(set.RowsAffected(), 3);
-    EXPECT_TRUE(set.Eof());
+    EXPECT_EQ(std::tuple(set.RowsAffected(), set.Eof()), std::tuple(3, true));
     ASSERT_TRUE(set.NextRecordset());
     EXPECT_EQ(set.Fields(0), Value(42));
     ASSERT_TRUE(set.NextRecordset());

@@ -15,8 +15,7 @@ TEST_F(CustomerEntry, AChosenCustomerBringsCategoryAndPriceHeading) {
     Type(f.txtCustomer, "City");
     Pick(1);
     Key(f.txtCustomer, 13);
-    EXPECT_EQ(f.txtCustomerID.Text(), "C003");
-    EXPECT_EQ(f.nCustomerCategory, 3);
+    EXPECT_EQ(std::tuple(f.txtCustomerID.Text(), f.nCustomerCategory), std::tuple("C003", 3));
     // The demo's label table shortens the heading.
     EXPECT_EQ(f.lstAvailable.ColumnHeaders[2].Text, "Spl. Price");
     EXPECT_EQ(Errors(), 0);
@@ -37,8 +36,7 @@ TEST_F(CustomerEntry, EnterWithTheListOpenTakesItsHighlightedRow) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     Type(f.txtCustomer, "Anand");
     Key(f.txtCustomer, 13);
-    EXPECT_EQ(f.txtCustomer.Tag, "C001");
-    EXPECT_EQ(f.txtCustomerID.Text(), "C001");
+    EXPECT_EQ(std::tuple(f.txtCustomer.Tag, f.txtCustomerID.Text()), std::tuple("C001", "C001"));
 }
 
 TEST_F(CustomerEntry, ClearingTheNameClearsTheCodeOnLeaving) {
@@ -72,8 +70,7 @@ TEST_F(CustomerEntry, TheCustomerFormHandsBackACustomer) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     f.nCustomerEntrySource = 2;
     f.CustomerCallBack("C009", "Lakshmi Provisions");
-    EXPECT_EQ(Box(f.txtCustomerID), "C009|C009");
-    EXPECT_EQ(f.ActiveControl(), &f.txtCustomerID);
+    EXPECT_EQ(std::tuple(Box(f.txtCustomerID), f.ActiveControl()), std::tuple("C009|C009", &f.txtCustomerID));
     f.nCustomerEntrySource = 1;
     f.CustomerCallBack("C009", "Lakshmi Provisions");
     EXPECT_EQ(Box(f.txtCustomer), "Lakshmi Provisions|C009");

@@ -68,8 +68,7 @@ TEST_F(DocumentLists, StatusWordsAreAskedCancelledThenAmendedThenClosed) {
         return screen::lists::DispatchStatusText(messages, status, invoiced);
     };
     // Cancelled wins over amended.
-    EXPECT_EQ(word(192 | 256 | 1, false), "Cancelled");
-    EXPECT_EQ(word(385, true), "Amended");
+    EXPECT_EQ(std::tuple(word(192 | 256 | 1, false), word(385, true)), std::tuple("Cancelled", "Amended"));
     // The closed bit reads as invoiced whatever the invoice flag says.
     EXPECT_EQ(std::tuple(word(129, false), word(128, true), word(4, true), word(0, false)),
               std::tuple("Invoiced", "Invoiced", "Closed", "Pending"));

@@ -94,8 +94,7 @@ TEST_F(GridKeysRows, AFreeRowTakesOnlyTheMovingKeys) {
     auto& grid = f.DTFlexDispatch;
     grid.UserGoto(2, colItemCode);
     grid.UserType("X");
-    EXPECT_FALSE(grid.Editing());
-    EXPECT_EQ(grid.GetCell(2, colItemCode), "FD001");
+    EXPECT_EQ(std::tuple(grid.Editing(), grid.GetCell(2, colItemCode)), std::tuple(false, "FD001"));
 
     for (int key : {8, 46, 32, 191}) EXPECT_EQ(KeyCode(key), 0) << "key " << key;  // Backspace, Delete, Space, slash
     grid.UserKey(38);                                                              // Up still moves
@@ -114,8 +113,7 @@ TEST_F(GridKeysRows, SpaceInTheQuantityShowsTheItemsSchemesWithTheStoredNoteOfAn
     f.DTFlexDispatch.UserGoto(2, colQuantity);
     KeyCode(32);
     EXPECT_TRUE(TranscriptHas("ShowItemSchemes \"FD002\" 2026-11-22 \"C005\" [")) << ErrorLines();
-    EXPECT_TRUE(TranscriptHas("] 0 -> ok"));
-    EXPECT_FALSE(f.bSchemeViewKey);
+    EXPECT_EQ(std::tuple(TranscriptHas("] 0 -> ok"), f.bSchemeViewKey), std::tuple(true, false));
 
     f.nMode = screen::mode::Amendment;
     f.DTFlexDispatch.SetCell(2, colQuantity, "0");
@@ -198,8 +196,7 @@ TEST_F(GridKeysRows, CheckSchemeGathersTheSpecialCategoryAndOwnFreeRows) {
     grid.SetCell(1, colSplCatSerial, "3,");
     // Kept row: only the special category free row goes, its own link stays.
     form->CheckScheme(1, false, grid);
-    EXPECT_EQ(Rows(), "A:4 B: AF:1");
-    EXPECT_EQ(grid.GetCell(1, colSplCatSerial), "");
+    EXPECT_EQ(std::tuple(Rows(), grid.GetCell(1, colSplCatSerial)), std::tuple("A:4 B: AF:1", ""));
 
     form->CheckScheme(1, true, grid);
     EXPECT_EQ(Rows(), "A: B:");

@@ -63,8 +63,7 @@ TEST_F(HeaderPages, NoDocumentTypesLeavesTheSerialReference) {
 TEST_F(HeaderPages, WithNoDefaultTheFirstRealTypeStands) {
     database->ExecuteNative("UPDATE TransactionDocNumber SET IsDefault = 0");
     Zuro_frmDispatch_Dispatch& f = Open(2);
-    EXPECT_EQ(f.cbodocumenttype.ListIndex(), 1);
-    EXPECT_EQ(f.txtDocReference.Text(), "KA/DN/8");
+    EXPECT_EQ(std::tuple(f.cbodocumenttype.ListIndex(), f.txtDocReference.Text()), std::tuple(1, "KA/DN/8"));
 }
 
 TEST_F(HeaderPages, TypedTypesAreTakenAsTheTableSpellsThem) {

@@ -1,5 +1,7 @@
 // The stock list of a line: what the stock procedures offer, how the list shows it,
 // and what the line takes from the entry selected.
+#include <tuple>
+
 #include "screen_fixture.h"
 
 namespace screen_test {
@@ -43,8 +45,7 @@ TEST_F(BatchList, TheStockProcedureOffersLiveBatchesEarliestExpiryFirst) {
     EXPECT_EQ(BookStock("FD005", 0, 0, 1), "");
 
     EXPECT_EQ(form->GetTotalBookStock("FD001"), 3600) << "neither free nor expired stock is saleable";
-    EXPECT_EQ(form->GetTotalBookStock("FD005"), 0);
-    EXPECT_EQ(form->GetTotalBookStock("ZZ999"), 0);
+    EXPECT_EQ(std::tuple(form->GetTotalBookStock("FD005"), form->GetTotalBookStock("ZZ999")), std::tuple(0, 0));
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
@@ -57,8 +58,7 @@ TEST_F(BatchList, TheListShowsStockInTheRowsUnitAndMarksFreeStock) {
     // The trade prices of a box, for the row to take from.
     EXPECT_EQ(first.SubItem(8) + " " + first.SubItem(9),
               Scalar("SELECT printf('%.2f %.2f', PTS * 24, PTR * 24) FROM Batch_Products WHERE Batch_Code = 1"));
-    EXPECT_EQ(form->szBatchItemCode, "FD001");
-    EXPECT_EQ(Cell(grid::colBatchSelection), "1");
+    EXPECT_EQ(std::tuple(form->szBatchItemCode, Cell(grid::colBatchSelection)), std::tuple("FD001", "1"));
     // The widths of screen 1; the price column only for items priced by batch.
     // Marie carries packing dates, so the fifth column shows.
     std::vector<double> widths;
@@ -72,14 +72,12 @@ TEST_F(BatchList, MovingOntoARowShowsItsBatchesUnlessTheRowHasNoName) {
     OpenForItems();
     ItemLine("FD001", "2", 24);
     form->DTFlexDispatch_RowColChange(1, grid::colQuantity);
-    EXPECT_TRUE(form->FrameAvailable.Visible);
-    EXPECT_TRUE(form->cmdChange.Visible);
+    EXPECT_EQ(std::tuple(form->FrameAvailable.Visible, form->cmdChange.Visible), std::tuple(true, true));
     EXPECT_GT(form->lstAvailable.Count(), 0);
 
     form->DTFlexDispatch.SetCell(1, grid::colItemName, " ");
     form->DTFlexDispatch_RowColChange(1, grid::colQuantity);
-    EXPECT_FALSE(form->FrameAvailable.Visible);
-    EXPECT_FALSE(form->cmdChange.Visible);
+    EXPECT_EQ(std::tuple(form->FrameAvailable.Visible, form->cmdChange.Visible), std::tuple(false, false));
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 

@@ -1,6 +1,8 @@
 // A note keyed and saved, then opened again for viewing, stands in the grid as it
 // stood before the save: every cell of every row, the hidden ones included, but for
 // the columns the loader is meant to fill or to leave out.
+#include <tuple>
+
 #include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
 #include "screen_fixture.h"
@@ -112,8 +114,7 @@ TEST_F(LoadRoundTripTest, ASavedNoteLoadsBackCellForCell) {
         }
     }
     // The quantity of the three-unit line comes back in base units beside its text.
-    EXPECT_EQ(after[0][colStoredQty], "291");
-    EXPECT_EQ(after[0][colStoredRow], "1");
+    EXPECT_EQ(std::tuple(after[0][colStoredQty], after[0][colStoredRow]), std::tuple("291", "1"));
 }
 
 }  // namespace

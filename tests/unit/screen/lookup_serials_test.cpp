@@ -48,26 +48,22 @@ TEST_F(RowSerials, ARowKeepsItsSerialAndANewRowTakesTheNextAfterTheLastLoaded) {
     EXPECT_EQ(f.nSerialCounter, 7);
 
     Serial(2);  // has 9: stays
-    EXPECT_EQ(SerialOf(2), "9");
-    EXPECT_EQ(f.nSerialCounter, 7);
+    EXPECT_EQ(std::tuple(SerialOf(2), f.nSerialCounter), std::tuple("9", 7));
 
     Serial(4);
-    EXPECT_EQ(SerialOf(4), "8");
-    EXPECT_EQ(f.nSerialCounter, 8);
+    EXPECT_EQ(std::tuple(SerialOf(4), f.nSerialCounter), std::tuple("8", 8));
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
 TEST_F(RowSerials, ResetNumbersEveryRowAndOneRowAlwaysRestartsAtOne) {
     Rows({4, 0, 12});
     Serial(1, 1);
-    EXPECT_EQ(SerialOf(1) + SerialOf(2) + SerialOf(3), "123");
-    EXPECT_EQ(f.nSerialCounter, 3);
+    EXPECT_EQ(std::tuple(SerialOf(1) + SerialOf(2) + SerialOf(3), f.nSerialCounter), std::tuple("123", 3));
 
     Rows({30});
     f.nSerialCounter = 30;
     Serial(1);
-    EXPECT_EQ(SerialOf(1), "1");
-    EXPECT_EQ(f.nSerialCounter, 1);
+    EXPECT_EQ(std::tuple(SerialOf(1), f.nSerialCounter), std::tuple("1", 1));
 }
 
 TEST_F(RowSerials, ACounterBeyondSixteenBitsIsAnOverflowAndChangesNothing) {

@@ -92,8 +92,7 @@ TEST_F(UnitsOfMeasure, AChoiceFromTheListSetsUnitAndRateAndEnterGoesOnToTheQuant
     f.lstUOM.KeyDown.Raise(key, 0);
     EXPECT_EQ(Cell(grid::colUOM), "PCS");
     EXPECT_EQ(Cell(grid::colQuantity), "");  // the unit never lands in the quantity
-    EXPECT_EQ(f.DTFlexDispatch.GridCol(), grid::colQuantity);
-    EXPECT_FALSE(f.lstUOM.Visible);
+    EXPECT_EQ(std::tuple(f.DTFlexDispatch.GridCol(), f.lstUOM.Visible), std::tuple(grid::colQuantity, false));
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
@@ -143,8 +142,7 @@ TEST_F(UnitsOfMeasure, CopyFindsTheQuantityColumnAndPasteAddsNothing) {
               std::tuple(grid::colQuantity, "12", 2));
     f.CopyGridItems(grid);
     f.PasteGridItems(grid);
-    EXPECT_EQ(grid.GridRows(), 2);
-    EXPECT_TRUE(grid.IsBlankRow(2));
+    EXPECT_EQ(std::tuple(grid.GridRows(), grid.IsBlankRow(2)), std::tuple(2, true));
     grid.SetGridRows(1);
     EXPECT_EQ(f.FirstBlankGridRow(grid), 0) << "every row holds a line";
     for (int col = 3; col <= grid.GridCols(); ++col) grid.SetCell(0, col, "");

@@ -99,12 +99,10 @@ TEST_F(OtherGroupFreeItems, SettledEntriesUpdateOrMakeRows) {
             std::tuple(grid.GetCell(row, colOCGItem), grid.GetCell(row, colFreeItem), grid.GetCell(row, colSalePrice)),
             std::tuple("1", "1", "0"));
     }
-    EXPECT_EQ(grid.GetCell(4, colBatch), "OD24A");
-    EXPECT_EQ(grid.GetCell(4, colBatchCode), "12");
+    EXPECT_EQ(std::tuple(grid.GetCell(4, colBatch), grid.GetCell(4, colBatchCode)), std::tuple("OD24A", "12"));
     EXPECT_NE(grid.GetCell(4, colSerialNo), grid.GetCell(5, colSerialNo));
     EXPECT_GT(platform::Val(grid.GetCell(5, colSerialNo)), 4);
-    EXPECT_EQ(grid.GridRow(), 1);
-    EXPECT_EQ(grid.GridCol(), host->Global().GetGridEditColumnValue());
+    EXPECT_EQ(std::tuple(grid.GridRow(), grid.GridCol()), std::tuple(1, host->Global().GetGridEditColumnValue()));
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 

@@ -1,6 +1,7 @@
 #include "screen/routine_binder.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -145,14 +146,12 @@ TEST_F(RoutineBinderTest, ByReferenceParametersAreOutsInOrderUnderTheirNames) {
     // An in-out parameter takes its word and is reported with what the routine left in it.
     call = Call("Key", {"13", "1"});
     ASSERT_EQ(call.outs.size(), 1u);
-    EXPECT_EQ(call.outs[0].first, "KeyCode");
-    EXPECT_EQ(platform::ToText(call.outs[0].second), "27");
+    EXPECT_EQ(std::tuple(call.outs[0].first, platform::ToText(call.outs[0].second)), std::tuple("KeyCode", "27"));
 }
 
 TEST_F(RoutineBinderTest, AnOptionalParameterLeftOutTakesItsWord) {
     Call("Credit", {"Shah Traders"});
-    EXPECT_EQ(probe.lastName, "Shah Traders");
-    EXPECT_FALSE(probe.lastFlag);
+    EXPECT_EQ(std::tuple(probe.lastName, probe.lastFlag), std::tuple("Shah Traders", false));
     Call("Credit", {"Shah Traders", "true"});
     EXPECT_TRUE(probe.lastFlag);
 }

@@ -85,8 +85,7 @@ TEST_F(SaveButton, AHealthCareLineForACustomerWithoutADrugLicenceOrAZeroQuantity
     RaviNote();
     SetCell(colQuantity, "0", 2);
     f.cmdSave_Click();
-    EXPECT_EQ(LastStatus(), "Invalid quantity");
-    EXPECT_EQ(Focused(), "DTFlexDispatch");
+    EXPECT_EQ(std::tuple(LastStatus(), Focused()), std::tuple("Invalid quantity", "DTFlexDispatch"));
 
     SetCell(colItemCode, "HC001", 2);
     SetCell(colSalePrice, "18", 2);

@@ -36,8 +36,7 @@ TEST_F(SaveTest, APostingTheJournalRefusesShowsItsReasonAsANoteAndTakesTheNoteBa
     faults->FailMatching("Insert Into JournalPostings");
     EXPECT_FALSE(f.SaveDispatch());
     EXPECT_NE(LastStatus().find("Insert Into JournalPostings"), std::string::npos) << LastStatus();
-    EXPECT_EQ(LastStatusKind(), 0);
-    EXPECT_TRUE(Tables() == tables);
+    EXPECT_EQ(std::tuple(LastStatusKind(), Tables() == tables), std::tuple(0, true));
 }
 
 TEST_F(SaveTest, EveryCallOfTheSaveFailingLeavesTablesAndGridAsTheyWere) {
@@ -93,8 +92,7 @@ TEST_F(SaveTest, AStockRefusalOnTheLastRowTakesTheWholeNoteBack) {
     // At the customer's price the same refusal marks the row's quantity refused.
     f.DTFlexDispatch.SetCell(2, grid::colPriceOption, "1");
     EXPECT_FALSE(f.SaveDispatch());
-    EXPECT_TRUE(Tables() == tables);
-    EXPECT_TRUE(f.bQtyRefused);
+    EXPECT_EQ(std::tuple(Tables() == tables, f.bQtyRefused), std::tuple(true, true));
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 

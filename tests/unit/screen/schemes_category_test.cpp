@@ -60,8 +60,7 @@ TEST_F(SpecialCategory, TheSchemesLinesShareItsFreeRows) {
     // Nothing changed: the pass is not run again.
     const auto before = Rows();
     Click();
-    EXPECT_EQ(Rows(), before);
-    EXPECT_EQ(FreeItemDialogs(), 1);
+    EXPECT_EQ(std::tuple(Rows(), FreeItemDialogs()), std::tuple(before, 1));
 
     // A change rebuilds the pass from nothing: still one free row, now of three.
     SetQuantity(2, 20);
@@ -77,8 +76,7 @@ TEST_F(SpecialCategory, TheSchemesLinesShareItsFreeRows) {
     SetQuantity(3, 1);
     form->DTFlexDispatch.SetCell(Line("FD003", 20), colFreeRow, "1");
     Click();
-    EXPECT_TRUE(FreeRowsOf("PM002").empty());
-    EXPECT_EQ(LastStatus(), "Schemes not available");
+    EXPECT_EQ(std::tuple(FreeRowsOf("PM002").empty(), LastStatus()), std::tuple(true, "Schemes not available"));
     ExpectLinksHold();
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
@@ -96,13 +94,11 @@ TEST_F(SpecialCategory, ARefusedFreeItemStopsThePassUntilItCanBeHad) {
     Scalar("UPDATE SchemeFreeItems SET Free_Item_Code = 'PM002' WHERE SlabID = 9111");
     answers.Queue("SelectFreeItem", {"none"});
     Click();
-    EXPECT_EQ(LastStatus(), "Free Item Not selected");
-    EXPECT_TRUE(form->bSplCatRefused);
+    EXPECT_EQ(std::tuple(LastStatus(), form->bSplCatRefused), std::tuple("Free Item Not selected", true));
 
     Choose("PM002");
     Click();
-    EXPECT_FALSE(form->bSplCatRefused);
-    EXPECT_EQ(FreeRowsOf("PM002").size(), 1u);
+    EXPECT_EQ(std::tuple(form->bSplCatRefused, FreeRowsOf("PM002").size()), std::tuple(false, 1u));
     ExpectLinksHold();
 }
 

@@ -44,15 +44,13 @@ TEST_F(SkuSchemes, TheButtonRerunsOnlyTheItemsWhoseTotalsChanged) {
 
     const auto before = Rows();
     Click();
-    EXPECT_EQ(FreeItemDialogs(), 2);
-    EXPECT_EQ(Rows(), before);
+    EXPECT_EQ(std::tuple(FreeItemDialogs(), Rows()), std::tuple(2, before));
 
     // PC003 to 40: only PC003 is asked again, and still earns its two once.
     SetQuantity(2, 40);
     Choose("PM002");
     Click();
-    EXPECT_EQ(FreeItemDialogs(), 3);
-    EXPECT_EQ(FreeItemDialogs("902"), 2);
+    EXPECT_EQ(std::tuple(FreeItemDialogs(), FreeItemDialogs("902")), std::tuple(3, 2));
     ASSERT_EQ(FreeRowsOf("PM002").size(), 2u);
     EXPECT_TRUE(form->bFlushRow);
     ExpectLinksHold();
@@ -102,8 +100,7 @@ TEST_F(SkuSchemes, AGoneFreeRowIsMissedAndARevertKeepsTheMarksOfALastLineWithout
     grid.SetCell(first, colItemCheck, ",9");
     EXPECT_FALSE(form->FreeItemExits("FD003", std::to_string(first)));
     form->ReverSKUScheme("FD003", std::to_string(first) + "," + std::to_string(last));
-    EXPECT_EQ(Cell(first, colSchemeID), "0");
-    EXPECT_EQ(Cell(last, colSchemeID), "901");
+    EXPECT_EQ(std::tuple(Cell(first, colSchemeID), Cell(last, colSchemeID)), std::tuple("0", "901"));
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
@@ -118,8 +115,7 @@ TEST_F(SkuSchemes, NotesFromPurchaseOrdersAndAlertsKeepTheFocusOnTheButton) {
         Choose("PM002");
         form->cmdApplyScheme.SetFocus();
         Click();
-        EXPECT_EQ(FreeRowsOf("PM002").size(), 1u);
-        EXPECT_EQ(form->ActiveControl(), &form->cmdApplyScheme);
+        EXPECT_EQ(std::tuple(FreeRowsOf("PM002").size(), form->ActiveControl()), std::tuple(1u, &form->cmdApplyScheme));
     }
 }
 

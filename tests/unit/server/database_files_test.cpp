@@ -2,6 +2,7 @@
 // left as it was, and a copy is a consistent snapshot.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <tuple>
 
 #include <filesystem>
 #include <fstream>
@@ -64,8 +65,7 @@ TEST(DatabaseFiles, MakingRefusesAnExistingFileAndCleansUpAFailure) {
                     CreateDatabaseFromScripts(broken, {SchemaScript(), "CREATE TABLE Customer (x);"});
                 }),
                 HasSubstr("already exists"));
-    EXPECT_FALSE(exists(broken));
-    EXPECT_FALSE(exists(broken + "-wal"));
+    EXPECT_EQ(std::tuple(exists(broken), exists(broken + "-wal")), std::tuple(false, false));
 
     const std::string anonymous = ScratchPath("anonymous", ".db");
     EXPECT_THAT(Refusal([&] { CreateDatabaseFromScripts(anonymous, {"CREATE TABLE t (a);"}); }),

@@ -1,5 +1,6 @@
 // The three transaction calls, and what they mean for a second clerk on the same file.
 #include <gtest/gtest.h>
+#include <tuple>
 
 #include "platform/runtime_error.h"
 #include "server_test_support.h"
@@ -33,8 +34,7 @@ TEST_F(Transactions, AFailedStatementInsideLeavesTheTransactionOpenForTheRollbac
               "FOREIGN KEY constraint failed");
     EXPECT_TRUE(first_.InTransaction());
     first_.RollbackTrans();
-    EXPECT_FALSE(first_.InTransaction());
-    EXPECT_EQ(Stock(*second_), "144r");
+    EXPECT_EQ(std::tuple(first_.InTransaction(), Stock(*second_)), std::tuple(false, "144r"));
 }
 
 TEST_F(Transactions, RefusesCallsOutOfOrder) {

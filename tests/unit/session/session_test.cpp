@@ -16,8 +16,7 @@ using ::testing::Not;
 
 TEST_F(SessionTest, OpenDatesDefaultToTodayAndAFormWithoutAScreenOpensNone) {
     Run("database empty\nopen dispatch 2\n");
-    EXPECT_EQ(openings.serverDate, Today());
-    EXPECT_EQ(openings.alertDate, Today());
+    EXPECT_EQ(std::tuple(openings.serverDate, openings.alertDate), std::tuple(Today(), Today()));
     auto outcome = Run("database empty\nopen cform 2026-11-22\nclick cmdSave\n");
     EXPECT_THAT(outcome.out, HasLine("= no screen opened"));
     EXPECT_THAT(outcome.out, HasSubstr("FAIL line 3: click cmdSave: the screen did not open"));

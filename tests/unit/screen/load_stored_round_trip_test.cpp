@@ -1,6 +1,7 @@
 // A note keyed and saved, then opened again for viewing, stands in the grid as it
 // stood before the save: every cell of every row, the hidden ones included, but for
 // the columns the loader is meant to fill or to leave out.
+#include <set>
 #include <tuple>
 
 #include "grid/row_model/grid_columns.h"
@@ -45,31 +46,16 @@ std::string Comparable(int col, const std::string& text) {
     return text;
 }
 
+// The available quantity holds the stock figure before and the batch code of the stored
+// line after; the previous quantity comes back as its text.
 bool RestoredColumn(int col) {
-    switch (col) {
-        case colAvailableQty:  // the stock figure before, the batch code of the stored line after
-        case colPrevQty:       // the quantity as its text after the load
-        case colBatchRequired:
-        case colSchemeName:
-        case colPromptMessage:
-        case colPrimaryItemCode:
-        case colBatchSelection:
-        case colStoredBatch:
-        case colStoredQty:
-        case colStoredRow:
-        case colStoredExpiry:
-        case colStoredPKD:
-        case colBatchCode:
-        case colUOMDesc:
-        case colSplCatSchemeIndicator:
-        case colSplCatDiscPercent:
-        case colSplCatDiscAmount:
-        case colSplCatCode:
-        case colFreeItmIgnored:
-        case colSchemeCustID:
-        case colSchemeInvDate: return false;
-        default: return true;
-    }
+    static const std::set<int> kLoaderColumns = {
+        colAvailableQty,      colPrevQty,          colBatchRequired, colSchemeName,     colPromptMessage,
+        colPrimaryItemCode,   colBatchSelection,   colStoredBatch,   colStoredQty,      colStoredRow,
+        colStoredExpiry,      colStoredPKD,        colBatchCode,     colUOMDesc,        colSplCatSchemeIndicator,
+        colSplCatDiscPercent, colSplCatDiscAmount, colSplCatCode,    colFreeItmIgnored, colSchemeCustID,
+        colSchemeInvDate};
+    return !kLoaderColumns.contains(col);
 }
 
 TEST_F(LoadRoundTripTest, ASavedNoteLoadsBackCellForCell) {

@@ -50,14 +50,11 @@ TEST_F(GlobalTest, TheNextReferenceIsThePrefixAndTheCountAfterTheLast) {
 }
 
 TEST_F(GlobalTest, ReferencesSplitIntoLeadAndNumber) {
-    struct Case {
-        const char* reference;
-        long number;
-        int prefix;
-    };
-    for (const Case& c : std::vector<Case>{{"DN1234", 1234, 2}, {"1234", 1234, 0}, {"DN/12X3", 12, 3}, {"DN", 0, 2}}) {
-        EXPECT_EQ(global().ParseDocumentNumber(c.reference), c.number) << c.reference;
-        EXPECT_EQ(global().GetDocumentPrefixLength(c.reference), c.prefix) << c.reference;
+    using Case = std::tuple<const char*, long, int>;
+    for (const auto& [reference, number, prefix] :
+         std::vector<Case>{{"DN1234", 1234, 2}, {"1234", 1234, 0}, {"DN/12X3", 12, 3}, {"DN", 0, 2}}) {
+        EXPECT_EQ(global().ParseDocumentNumber(reference), number) << reference;
+        EXPECT_EQ(global().GetDocumentPrefixLength(reference), prefix) << reference;
     }
     EXPECT_EQ(std::tuple(global().ParseDocumentNumber(""), global().GetVoucherPrefix("NO SUCH")), std::tuple(0, ""));
 }

@@ -27,27 +27,20 @@ TEST_F(FormSpine, TheGridHasItsFortyThreeColumns) {
 }
 
 TEST_F(FormSpine, EachModeTitlesItsFrameAndSetsUpItsGrid) {
-    struct Expected {
-        long mode;
-        const char* title;
-        bool itemsLocked;
-        int lastEntryCol;
-        bool addRows;
-        bool deleteRows;
-    };
-    for (const Expected& e :
+    using Expected = std::tuple<long, const char*, bool, int, bool, bool>;
+    for (const auto& [mode, title, itemsLocked, lastEntryCol, addRows, deleteRows] :
          {Expected{1, "Dispatch from Sales Confirmation", true, 5, false, true},
           Expected{2, "Generate New Dispatch", false, 5, true, true},
           Expected{3, "Dispatch from Purchase Order", true, 5, false, true},
           Expected{6, "Dispatch from Sales Confirmation", true, 5, false, true},
           Expected{7, "Dispatch Amendment", false, 2, true, true}, Expected{4, "View Dispatch", false, 0, false, false},
           Expected{5, "Cancel Dispatch", false, 0, false, false}}) {
-        SCOPED_TRACE("mode " + std::to_string(e.mode));
-        Zuro_frmDispatch_Dispatch& f = Open(e.mode);
+        SCOPED_TRACE("mode " + std::to_string(mode));
+        Zuro_frmDispatch_Dispatch& f = Open(mode);
         EXPECT_EQ(std::tuple(f.FieldText("objLink"), f.DTFlexDispatch.ColLocked(grid::colItemCode),
                              f.DTFlexDispatch.ColLocked(grid::colItemName), f.DTFlexDispatch.LastEntryCol,
                              f.DTFlexDispatch.AllowAddRows, f.DTFlexDispatch.AllowDeleteRows),
-                  std::tuple(e.title, e.itemsLocked, e.itemsLocked, e.lastEntryCol, e.addRows, e.deleteRows));
+                  std::tuple(title, itemsLocked, itemsLocked, lastEntryCol, addRows, deleteRows));
         f.Close();
     }
 }

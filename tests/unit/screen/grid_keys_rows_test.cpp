@@ -148,24 +148,19 @@ TEST_F(GridKeysRows, SlashInTheQuantityNeverLandsInIt) {
 // its own close up by one, without them they stay. A free row above its primary does not
 // misdirect the deletion.
 TEST_F(GridKeysRows, DeletingAPrimaryTakesItsFreeRows) {
-    struct Case {
-        const char* ocg;
-        std::vector<Line> lines;
-        int row;
-        std::string after;
-    };
+    using Case = std::tuple<const char*, std::vector<Line>, int, std::string>;
     const std::vector<Case> cases = {
         {"true", {{"A", "1", "3"}, {"B", "2", "4"}, {"AF", "3", "1", true}, {"BF", "4", "2", true}}, 1, "B:3 BF:2"},
         {"true", {{"X", "1", ""}, {"AF", "3", "2", true}, {"A", "2", "3"}, {"Y", "4", ""}}, 3, "X: Y:"},
         {"false", {{"A", "1", "3"}, {"B", "2", "4"}, {"AF", "3", "1", true}, {"BF", "4", "2", true}}, 1, "B:4 BF:2"},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.after);
-        settings.Set("GetOCGEnabled", c.ocg);
+    for (const auto& [ocg, lines, row, after] : cases) {
+        SCOPED_TRACE(after);
+        settings.Set("GetOCGEnabled", ocg);
         OpenNote();
-        Lines(c.lines);
-        form->DTFlexDispatch.UserDeleteRow(c.row);
-        EXPECT_EQ(Rows(), c.after);
+        Lines(lines);
+        form->DTFlexDispatch.UserDeleteRow(row);
+        EXPECT_EQ(Rows(), after);
     }
     EXPECT_EQ(Errors(), 0) << ErrorLines();
 }

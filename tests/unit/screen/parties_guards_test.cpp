@@ -164,10 +164,7 @@ TEST(GetSerialInAscOrder, SortsNumericallyAndWritesNumbers) {
 }
 
 TEST(GrpExists, ComparesEveryOldGroupWithEveryNewOne) {
-    const struct {
-        const char *szOld, *szNew;
-        bool bAll, bAny;
-    } cases[] = {
+    const std::tuple<const char*, const char*, bool, bool> cases[] = {
         {"1,2", "2,1", true, true},                                  // the same groups in another order
         {"1,2", "2", false, true},                                   // one kept, one lost
         {"1,2,3", "1,2", false, true},                               // the last old one lost
@@ -176,10 +173,10 @@ TEST(GrpExists, ComparesEveryOldGroupWithEveryNewOne) {
         {"", "1", true, false},                                      // nothing before: nothing lost
         {"4", "", false, false},
     };
-    for (const auto& c : cases) {
+    for (const auto& [szOld, szNew, allKept, anyKept] : cases) {
         bool bAll = false, bAny = true;
-        Form::GrpExists(c.szOld, c.szNew, bAll, bAny);
-        EXPECT_EQ(std::pair(bAll, bAny), std::pair(c.bAll, c.bAny)) << c.szOld << " in " << c.szNew;
+        Form::GrpExists(szOld, szNew, bAll, bAny);
+        EXPECT_EQ(std::pair(bAll, bAny), std::pair(allKept, anyKept)) << szOld << " in " << szNew;
     }
 }
 

@@ -114,12 +114,8 @@ TEST_F(RoutineBinderTest, WordsAreReadAsTheParameterTypesAndTheResultIsWrittenAs
 }
 
 TEST_F(RoutineBinderTest, WrongCountOrKindIsRefusedBeforeTheRoutineRuns) {
-    struct Case {
-        std::string routine;
-        std::vector<std::string> words;
-        std::string reason;
-    };
-    for (const auto& c : std::vector<Case>{
+    using Case = std::tuple<std::string, std::vector<std::string>, std::string>;
+    for (const auto& [routine, words, reason] : std::vector<Case>{
              {"Whole", {}, "takes 1 argument (nValue), was given 0"},
              {"Whole", {"1", "2"}, "takes 1 argument (nValue), was given 2"},
              {"Nothing", {"1"}, "takes no arguments, was given 1"},
@@ -131,7 +127,7 @@ TEST_F(RoutineBinderTest, WrongCountOrKindIsRefusedBeforeTheRoutineRuns) {
              {"Sum", {"1", "two"}, "argument 2 (nB) must be a number, was \"two\""},
              {"Key", {"13", "shift"}, "argument 2 (Shift) must be a number, was \"shift\""},
          }) {
-        EXPECT_EQ(Outcome(c.routine, c.words), "refused: " + c.reason) << c.routine;
+        EXPECT_EQ(Outcome(routine, words), "refused: " + reason) << routine;
     }
     EXPECT_EQ(probe.runs, 0);
 }

@@ -32,23 +32,19 @@ protected:
 TEST_F(SaveButton, ASalesmanOffTheBeatAndLinesTheGroupOrDSTypeDoesNotSellAreRefused) {
     RaviNote();
     const std::string notes = Notes();
-    struct Case {
-        std::string salesman, salesmanID, group, groupTag;
-        long number;
-    } cases[] = {
+    const std::tuple<std::string, std::string, std::string, std::string, long> cases[] = {
         {"Chitra Devi", "3", "Foods", "1", 35},  // Chitra serves Velachery only
         {"Arun Kumar", "1", "Beverages", "2", 13},
         // Chitra's DS type sells health and personal care, whatever group the note shows.
         {"Chitra Devi", "3", "Foods", "1", 13},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.number);
-        if (c.number == 13 && c.salesmanID == "3")
-            Scalar("INSERT INTO SalesmanBeat (SalesmanID, BeatID) VALUES (3, 1)");
-        Pick(f.txtSalesman, c.salesman, c.salesmanID);
-        Pick(f.txtCategory, c.group, c.groupTag);
+    for (const auto& [salesman, salesmanID, group, groupTag, number] : cases) {
+        SCOPED_TRACE(number);
+        if (number == 13 && salesmanID == "3") Scalar("INSERT INTO SalesmanBeat (SalesmanID, BeatID) VALUES (3, 1)");
+        Pick(f.txtSalesman, salesman, salesmanID);
+        Pick(f.txtCategory, group, groupTag);
         f.cmdSave_Click();
-        EXPECT_EQ(Numbered(), std::vector<long>{c.number});
+        EXPECT_EQ(Numbered(), std::vector<long>{number});
         EXPECT_EQ(Focused(), "cmdSave");
     }
     EXPECT_EQ(Notes(), notes);

@@ -121,25 +121,23 @@ TEST_F(SkuSchemes, NotesFromPurchaseOrdersAndAlertsKeepTheFocusOnTheButton) {
 
 TEST_F(SkuSchemes, AFreeItemThatCannotBeHadStopsTheItemAndIsRetriedNextTime) {
     AddScheme(903, 1, {{"FS001", 0}}, 1, 0, 1, "FD005");
-    const struct {
-        std::string freeItem, answer, words;
-    } cases[] = {
+    const std::tuple<std::string, std::string, std::string> cases[] = {
         {"FD005", "", "Free SKU is not available/Selected For the Primary Item - FS001"},  // no stock
         // switched off in the master with stock still on the shelf
         {"FD006", "", "Free SKU is not available/Selected For the Primary Item - FS001"},
         {"PM002", "none", "Free Item Not selected For The Primary Item -  FS001"},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.freeItem);
-        Scalar("UPDATE SchemeFreeItems SET Free_Item_Code = '" + c.freeItem + "' WHERE SlabID = 9031");
+    for (const auto& [freeItem, answer, words] : cases) {
+        SCOPED_TRACE(freeItem);
+        Scalar("UPDATE SchemeFreeItems SET Free_Item_Code = '" + freeItem + "' WHERE SlabID = 9031");
         form->ResetSchemeMemory();
         form->DTFlexDispatch.ClearGrid();
         form->DTFlexDispatch.SetGridRows(1);
         Line("FS001", 3);
-        if (!c.answer.empty()) Choose(c.answer);
+        if (!answer.empty()) Choose(answer);
         Click();
         EXPECT_EQ(std::tuple(LastStatus(), form->szFailedSKU, form->bFreeItemMissing),
-                  std::tuple(c.words, "FS001", true));
+                  std::tuple(words, "FS001", true));
         EXPECT_FALSE(form->bSchemeRunning);
         EXPECT_EQ(std::tuple(form->bSchemesApplied, form->ActiveControl(), FreeRowsOf("PM002").size()),
                   std::tuple(false, &form->cmdApplyScheme, 0u));

@@ -129,10 +129,7 @@ TEST_F(SchemeProcedures, SpecialCategorySchemesTheirItemsAndMinimums) {
     EXPECT_EQ(Rows("Zuro_sp_GetSplCategoryItems_New", {P(101)}), "A1|24r;B7|6r");
     EXPECT_EQ(Rows("Zuro_sp_GetSplCategoryItems_New", {P(1)}), "");
 
-    struct Case {
-        int scheme;
-        const char *check, *expected;
-    };
+    using Case = std::tuple<int, const char*, const char*>;
     const Case cases[] = {
         {101, "A1,12,1|B7,6,1|A1,12,1", "1"},  // one item's rows add up
         {101, "a1,24,0|B7,6,0|ZZ,1,1|", "1"},
@@ -141,8 +138,8 @@ TEST_F(SchemeProcedures, SpecialCategorySchemesTheirItemsAndMinimums) {
         {102, "", "1"},         // no item asks a minimum
         {1, "A1,1,1", "0"},     // an item scheme
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(Rows("Zuro_SP_isAllItemsexistsMinQty", {P(c.scheme), P(c.check)}), c.expected) << c.check;
+    for (const auto& [scheme, check, expected] : cases)
+        EXPECT_EQ(Rows("Zuro_SP_isAllItemsexistsMinQty", {P(scheme), P(check)}), expected) << check;
     for (const char* bad : {"A1,24|B7,6,1", "A1,x,1", ",1,1", "A1,1,1,1"})
         EXPECT_THAT(Refusal("Zuro_SP_isAllItemsexistsMinQty", {P(101), P(bad)}),
                     ::testing::HasSubstr("is not of the form item,quantity,value"));

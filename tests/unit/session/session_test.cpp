@@ -23,10 +23,8 @@ TEST_F(SessionTest, OpenDatesDefaultToTodayAndAFormWithoutAScreenOpensNone) {
 }
 
 TEST_F(SessionTest, ScriptErrorsStopAtTheirLineWithStatusTwo) {
-    struct Case {
-        std::string script, error;
-    };
-    for (const auto& c : std::vector<Case>{
+    using Case = std::tuple<std::string, std::string>;
+    for (const auto& [script, error] : std::vector<Case>{
              {kOpen + "key txtCustomer enter", "line 3: the key code must be a whole number, not \"enter\""},
              {kOpen + "type txtCustomer", "line 3: type takes a control and the text in quotes"},
              {kOpen + "tick cmdSave 1", "line 3: cmdSave is a CommandButton; tick needs a list view or a list box"},
@@ -44,10 +42,10 @@ TEST_F(SessionTest, ScriptErrorsStopAtTheirLineWithStatusTwo) {
              {"database /nonexistent/dispatch.db", "line 1: no database file /nonexistent/dispatch.db"},
              {"database empty\nsql \"SELEC 1\"", "line 2: the statement failed: "},
          }) {
-        SCOPED_TRACE(c.script);
-        auto outcome = Run(c.script + "\nshow rows\n");
+        SCOPED_TRACE(script);
+        auto outcome = Run(script + "\nshow rows\n");
         EXPECT_EQ(outcome.status, 2);
-        EXPECT_THAT(outcome.err, ::testing::StartsWith(c.error));
+        EXPECT_THAT(outcome.err, ::testing::StartsWith(error));
         EXPECT_THAT(outcome.out, Not(HasSubstr("FAIL")));
         EXPECT_THAT(outcome.out, Not(HasSubstr("> show rows")));
     }

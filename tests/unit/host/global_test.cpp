@@ -96,25 +96,17 @@ TEST_F(GlobalTest, TheWorkingDateIsTheSessionsAndTransactionsGoByItsDay) {
 }
 
 TEST_F(GlobalTest, UnitRatesFollowTheLadderOfEachItem) {
-    struct Case {
-        const char* item;
-        long uom;
-        double rate;
-    };
-    for (const Case& c : std::vector<Case>{
+    using Case = std::tuple<const char*, long, double>;
+    for (const auto& [item, uom, rate] : std::vector<Case>{
              {"ONE", 2, 0}, {"TWO", 3, 0}, {"three", 2, 12}, {"THREE", 0, 1}, {"NOSUCH", 1, 0}, {"KID'S", 1, 1}})
-        EXPECT_EQ(global().ConvertToBaseUOM(c.item, c.uom), c.rate) << c.item << " " << c.uom;
+        EXPECT_EQ(global().ConvertToBaseUOM(item, uom), rate) << item << " " << uom;
 
-    struct Level {
-        const char* item;
-        long level;
-        double rate;
-        long uom;
-    };
-    for (const Level& c : std::vector<Level>{{"THREE", 1, 1, 1}, {"TWO", 3, 0, 0}, {"NOSUCH", 1, 0, 0}}) {
+    using Level = std::tuple<const char*, long, double, long>;
+    for (const auto& [item, level, rate, levelUom] :
+         std::vector<Level>{{"THREE", 1, 1, 1}, {"TWO", 3, 0, 0}, {"NOSUCH", 1, 0, 0}}) {
         long uom = -1;
-        EXPECT_EQ(global().ConvertWithRate(c.item, c.level, uom), c.rate) << c.item << " " << c.level;
-        EXPECT_EQ(uom, c.uom) << c.item << " " << c.level;
+        EXPECT_EQ(global().ConvertWithRate(item, level, uom), rate) << item << " " << level;
+        EXPECT_EQ(uom, levelUom) << item << " " << level;
     }
 }
 
@@ -123,19 +115,12 @@ TEST_F(GlobalTest, QuantityExpressionsAlignToTheBaseUnitOnTheRight) {
     int parts = 0;
     EXPECT_TRUE(global().ValidateUOMQuantity("THREE", "2*0*5", parts, base));
     EXPECT_EQ(std::tuple(parts, base), std::tuple(3, 2 * 144 + 5));
-    struct Case {
-        const char* item;
-        const char* text;
-        double base;
-    };
-    for (const Case& c : std::vector<Case>{{"THREE", "3*4", 3 * 12 + 4},
-                                           {"TWO", "3*4", 40},
-                                           {"THREE", "7", 7},
-                                           {"TWO", "1.5*0", 18},
-                                           {"THREE", " 1 * 0 * 0 ", 144},
-                                           {"THREE", "0*0*0", 0}}) {
-        EXPECT_TRUE(Valid(c.item, c.text, &base)) << c.item << " " << c.text;
-        EXPECT_EQ(base, c.base) << c.item << " " << c.text;
+    const std::tuple<const char*, const char*, double> cases[] = {
+        {"THREE", "3*4", 3 * 12 + 4},  {"TWO", "3*4", 40},   {"THREE", "7", 7}, {"TWO", "1.5*0", 18},
+        {"THREE", " 1 * 0 * 0 ", 144}, {"THREE", "0*0*0", 0}};
+    for (const auto& [item, text, expected] : cases) {
+        EXPECT_TRUE(Valid(item, text, &base)) << item << " " << text;
+        EXPECT_EQ(base, expected) << item << " " << text;
     }
     EXPECT_EQ(global().ConvertToDisplayUOM("THREE", "1*1*1"), 157);
     EXPECT_EQ(global().ConvertToDisplayUOM("THREE", "x"), 0);

@@ -34,14 +34,12 @@ TEST(ControlsFocus, MovesWithLostThenGotFocusAndIsRefusedUnderAHiddenOrDisabledF
     EXPECT_EQ(events, (std::vector<std::string>{"box got", "box lost", "save got"}));
 
     const auto focusError = [](Control& control) { return ErrorNumberOf([&] { control.SetFocus(); }); };
-    box.Visible = false;
-    EXPECT_EQ(focusError(box), err::InvalidCall);
-    box.Visible = true;
-    page.Enabled = false;
-    EXPECT_EQ(focusError(box), err::InvalidCall);
-    page.Enabled = true;
-    inner.Visible = false;
-    EXPECT_EQ(focusError(box), err::InvalidCall);
+    // The box hidden, its page disabled, its frame hidden: each alone refuses it.
+    for (bool* shown : {&box.Visible, &page.Enabled, &inner.Visible}) {
+        *shown = false;
+        EXPECT_EQ(focusError(box), err::InvalidCall);
+        *shown = true;
+    }
     EXPECT_TRUE(save.HasFocus());
     Label label{scope, "lblRef"};
     EXPECT_EQ(focusError(label), err::InvalidCall);

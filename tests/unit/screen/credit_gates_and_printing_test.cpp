@@ -84,9 +84,8 @@ TEST_F(CreditGates, APrimaryRowsNameExplainsAFreeRowThatCannotBeFilled) {
     auto& f = Open(2);
     auto& grid = f.DTFlexDispatch;
     grid.SetGridRows(3);
-    grid.SetCell(1, grid::colItemCode, "FD001");
-    grid.SetCell(2, grid::colItemCode, "FD002");
-    grid.SetCell(3, grid::colItemCode, "FD005");
+    const char* codes[] = {"FD001", "FD002", "FD005"};
+    for (int row = 1; row <= 3; ++row) grid.SetCell(row, grid::colItemCode, codes[row - 1]);
     EXPECT_EQ(std::tuple(f.GetPrimaryItemName(3, "2", ""), f.GetPrimaryItemName(3, "", "1"),
                          f.GetPrimaryItemName(3, "0", "0")),
               std::tuple("Free SKU not available. You cannot sale this SKU - FD002",

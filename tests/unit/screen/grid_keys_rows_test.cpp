@@ -62,29 +62,22 @@ protected:
 // The next link is one above the highest (a link list read by the number conversion,
 // "1,2" as 12); closing a gap brings down only the links above it.
 TEST_F(GridKeysRows, TheNextLinkAndTheGapThatCloses) {
-    struct Case {
-        std::vector<Line> lines;
-        long next;
-        int gap;
-        std::string after;
-        long nextAfter;
-    };
-    const std::vector<Case> cases = {
+    const std::vector<std::tuple<std::vector<Line>, long, int, std::string, long>> cases = {
         {{{"A", "1", "3"}, {"B", "2", ""}, {"C", "3", "5"}, {"D", "4", "4"}}, 6, 4, "A:3 B: C:4 D:4", 5},
         {{{"A", "1", "3"}, {"SF", "3", "1,2", true}}, 13, 3, "A:3 SF:11", 12},
         {{}, 1, 0, "", 1},
     };
     OpenNote();
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.next);
-        Lines(c.lines);
+    for (const auto& [lines, nextBefore, gap, after, nextAfter] : cases) {
+        SCOPED_TRACE(nextBefore);
+        Lines(lines);
         long next = 99;
         form->GetMaxSchemeGridID(next);
-        EXPECT_EQ(next, c.next);
-        if (c.gap) form->AdjustRow(c.gap);
-        EXPECT_EQ(Rows(), c.after);
+        EXPECT_EQ(next, nextBefore);
+        if (gap) form->AdjustRow(gap);
+        EXPECT_EQ(Rows(), after);
         form->GetMaxSchemeGridID(next);
-        EXPECT_EQ(next, c.nextAfter);
+        EXPECT_EQ(next, nextAfter);
     }
 }
 

@@ -85,10 +85,7 @@ protected:
 };
 
 TEST_F(RoutineBinderTest, WordsAreReadAsTheParameterTypesAndTheResultIsWrittenAsACellTakesIt) {
-    struct Case {
-        std::string routine, word, outcome;
-    };
-    for (const auto& c : std::vector<Case>{
+    for (const auto& [routine, typed, outcome] : std::vector<std::tuple<std::string, std::string, std::string>>{
              // whole numbers round half to even, as the runtime does, and must fit their type
              {"Whole", "2.5", "2"},
              {"Whole", "2147483647", "2147483647"},
@@ -108,7 +105,7 @@ TEST_F(RoutineBinderTest, WordsAreReadAsTheParameterTypesAndTheResultIsWrittenAs
              {"Day", "tomorrow", "refused: argument 1 (dtDay) must be a date (YYYY-MM-DD), was \"tomorrow\""},
              {"Quote", "a b", "\"a b\""},
          })
-        EXPECT_EQ(Outcome(c.routine, {c.word}), c.outcome) << c.routine << " " << c.word;
+        EXPECT_EQ(Outcome(routine, {typed}), outcome) << routine << " " << typed;
     EXPECT_EQ(Outcome("Nothing", {}), "");
     EXPECT_EQ(Outcome("Sum", {"1.5", "2"}), "3.5");
 }

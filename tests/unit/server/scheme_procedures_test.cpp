@@ -87,12 +87,7 @@ protected:
 };
 
 TEST_F(SchemeProcedures, AnItemsSchemesAreThoseStandingWhoseSlabItsTotalReaches) {
-    struct Case {
-        const char *item, *day;
-        double quantity, amount;
-        const char *customer, *madeBy, *expected;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, const char*, double, double, const char*, const char*, const char*> cases[] = {
         {"A1", kMidJune, 11, 0, "C1", "", ""},                   // scheme 6 counts dozens from one on
         {" a1 ", kMidJune, 288, 999.99, "C1", "", "1/11;6/61"},  // two gross
         {"A1", kMidJune, 1368, 1000, "C1", "", "2/21;6/61"},     // 9.5 gross, between the bands
@@ -105,8 +100,8 @@ TEST_F(SchemeProcedures, AnItemsSchemesAreThoseStandingWhoseSlabItsTotalReaches)
         {"A1", kMidJune, 12, 0, "C2", "09/06/2030", "6/61"},
         {"A1", kMidJune, 12, 0, "C2", "1", ""},  // the old note was not found
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(SKU(c.item, c.day, c.quantity, c.amount, c.customer, c.madeBy), c.expected) << c.quantity;
+    for (const auto& [code, day, quantity, amount, customer, madeBy, expected] : cases)
+        EXPECT_EQ(SKU(code, day, quantity, amount, customer, madeBy), expected) << quantity;
     EXPECT_EQ(Rows("Zuro_sp_FindDispatch_SKUSchemeID_New", {P("a1"), P(kMidJune), P(288.0), P("C1")}, {1, 2, 3}),
               "A1/Gross Offer/3;A1/Dozens/3");
 
@@ -151,10 +146,11 @@ TEST_F(SchemeProcedures, TheSpecialCategorySlabIsTheHighestTheTotalOfItsUnitReac
         const std::string row = SplSlab(101, base, 0);
         EXPECT_EQ(row.empty() ? "" : platform::Split(row, "|")[6], slab) << base;
     }
-    EXPECT_EQ(SplSlab(101, 500, 0), "3|1|500r|99999r|1|500r|1012|2r|0r|0r");
-    EXPECT_EQ(SplSlab(102, 0, 0), "3|4|0r|99999r|1|0r|1021|1r|0r|0r");  // the value 0 the screen sends
-    EXPECT_EQ(SplSlab(103, 0, 1, "C1", 0), "1|3|1r|10r|1|0r|1031|0r|0r|5r");
-    EXPECT_EQ(SplSlab(103, 0, 1, "C1", 3) + SplSlab(104, 5, 0, "C1") + SplSlab(1, 500, 0), "");
+    // The second sends the value 0 as the screen does.
+    EXPECT_EQ(std::tuple(SplSlab(101, 500, 0), SplSlab(102, 0, 0), SplSlab(103, 0, 1, "C1", 0),
+                         SplSlab(103, 0, 1, "C1", 3) + SplSlab(104, 5, 0, "C1") + SplSlab(1, 500, 0)),
+              std::tuple("3|1|500r|99999r|1|500r|1012|2r|0r|0r", "3|4|0r|99999r|1|0r|1021|1r|0r|0r",
+                         "1|3|1r|10r|1|0r|1031|0r|0r|5r", ""));
     EXPECT_NE(SplSlab(104, 5, 0, "C2"), "");
 }
 

@@ -87,6 +87,7 @@ TEST_F(FormSpine, TheMemoButtonKeepsWhatTheUserAccepted) {
 }
 
 TEST_F(FormSpine, AnErrorInARoutineIsLoggedWithItsPrefix) {
+    expectedErrors = 1;
     Open(2);
     const int before = Errors();
     Scalar("ALTER TABLE Customer RENAME TO CustomerGone");

@@ -52,7 +52,6 @@ TEST_F(RowSerials, ARowKeepsItsSerialAndANewRowTakesTheNextAfterTheLastLoaded) {
 
     Serial(4);
     EXPECT_EQ(std::tuple(SerialOf(4), f.nSerialCounter), std::tuple("8", 8));
-    EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
 TEST_F(RowSerials, ResetNumbersEveryRowAndOneRowAlwaysRestartsAtOne) {
@@ -67,6 +66,7 @@ TEST_F(RowSerials, ResetNumbersEveryRowAndOneRowAlwaysRestartsAtOne) {
 }
 
 TEST_F(RowSerials, ACounterBeyondSixteenBitsIsAnOverflowAndChangesNothing) {
+    expectedErrors = 1;
     Rows({1, 0});
     f.nSerialCounter = 32767;
     Serial(2);
@@ -119,7 +119,6 @@ TEST_F(RowSerials, QuantitiesAddUpInBaseUnitsForMultiUnitRows) {
     f.DTFlexDispatch.SetCell(2, grid::colQuantity, "1*2*5");  // 240 + 48 + 5 pieces
     EXPECT_EQ(f.DoRowOperation(2, "1,2", f.DTFlexDispatch), platform::Value(10.0 + 293.0));
     EXPECT_EQ(f.DoRowOperation(2, "9", f.DTFlexDispatch), platform::Value(0.0));
-    EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
 }  // namespace

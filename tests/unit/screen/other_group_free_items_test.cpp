@@ -63,7 +63,6 @@ TEST_F(OtherGroupFreeItems, TheStandingRowsGoToTheDialogFieldFirstWithASpareSlot
     form->DTFlexDispatch.SetCell(2, colOCGItem, "0");
     form->DTFlexDispatch.SetCell(4, colOCGItem, "0");
     EXPECT_FALSE(form->ClubOCGFreeItems().IsArray());
-    EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
 // Only other-group rows go, and only those no entry names by a serial; an entry of
@@ -74,7 +73,6 @@ TEST_F(OtherGroupFreeItems, RowsTheDialogDroppedAreDeleted) {
     EXPECT_EQ(Codes(), "FD001 FD002 PC002 ");
     form->DeleteExistingOCGItems(Settled({}));
     EXPECT_EQ(Codes(), "FD001 FD002 ");
-    EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
 // A standing entry is rewritten in its row; one whose row has gone and one the dialog
@@ -103,7 +101,6 @@ TEST_F(OtherGroupFreeItems, SettledEntriesUpdateOrMakeRows) {
     EXPECT_NE(grid.GetCell(4, colSerialNo), grid.GetCell(5, colSerialNo));
     EXPECT_GT(platform::Val(grid.GetCell(5, colSerialNo)), 4);
     EXPECT_EQ(std::tuple(grid.GridRow(), grid.GridCol()), std::tuple(1, host->Global().GetGridEditColumnValue()));
-    EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
 // Only the modes that load their lines from documents give up the blank entry row.

@@ -100,6 +100,7 @@ TEST_F(Receipts, EachRowIsWrittenPassedOverOrMarkedUnchangedByItsMarks) {
 }
 
 TEST_F(Receipts, AFailedWriteStopsTheSaveAndKeepsTheRowsWrittenBeforeIt) {
+    expectedErrors = 1;
     OpenAll();
     Set(504, col::DFormNo, "DF-0089");
     Set(506, col::CFormNo, "CF-1022");

@@ -54,7 +54,6 @@ TEST_F(SaveButton, ASalesmanOffTheBeatAndLinesTheGroupOrDSTypeDoesNotSellAreRefu
     f.cmdSave_Click();
     EXPECT_TRUE(Numbered().empty());
     EXPECT_NE(Notes(), notes);
-    EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
 TEST_F(SaveButton, ALineWhoseItemWasTakenAwayStopsTheSaveAtItsRow) {
@@ -111,6 +110,7 @@ TEST_F(SaveButton, EveryLineNeedsTheNameOfItsCode) {
 // writes the statement; the server runs one statement a call, so the handler logs the
 // refusal and nothing is written.
 TEST_F(ScreenTest, ACustomerCodeCarryingAStatementMeetsTheServersRefusal) {
+    expectedErrors = 1;
     auto recorder = std::make_shared<platform::RecordingConnection>(database);
     UseConnection(recorder);
     Open(2);

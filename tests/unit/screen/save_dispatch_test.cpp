@@ -40,6 +40,7 @@ TEST_F(SaveTest, APostingTheJournalRefusesShowsItsReasonAsANoteAndTakesTheNoteBa
 }
 
 TEST_F(SaveTest, EveryCallOfTheSaveFailingLeavesTablesAndGridAsTheyWere) {
+    expectedErrors = -1;  // each failed run logs its own
     auto& f = KeyNoteForRavi();
     const std::string tables = Tables();
     const std::string cells = GridCells();
@@ -70,7 +71,7 @@ TEST_F(SaveTest, StockThatCannotBeReadCountsAsNone) {
     auto& f = Open(2);
     faults->FailMatching("spr_get_total_bookstock");
     EXPECT_EQ(f.GetTotalBookStock("FD001"), 0);
-    EXPECT_EQ(Errors(), 1) << "the failure is reported";
+    expectedErrors = 1;  // the failure is reported
 }
 
 TEST_F(SaveTest, AStockRefusalOnTheLastRowTakesTheWholeNoteBack) {
@@ -93,7 +94,6 @@ TEST_F(SaveTest, AStockRefusalOnTheLastRowTakesTheWholeNoteBack) {
     f.DTFlexDispatch.SetCell(2, grid::colPriceOption, "1");
     EXPECT_FALSE(f.SaveDispatch());
     EXPECT_EQ(std::tuple(Tables() == tables, f.bQtyRefused), std::tuple(true, true));
-    EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
 TEST_F(SaveTest, ACreditRefusalBeginsNothingAndSendsFocusToSave) {

@@ -8,10 +8,12 @@ namespace {
 
 using screen::Zuro_frmDispatch_Dispatch;
 
-class CustomerEntry : public ScreenTest {};
+class CustomerEntry : public ScreenTest {
+protected:
+    Zuro_frmDispatch_Dispatch& f = Open(2);
+};
 
 TEST_F(CustomerEntry, AChosenCustomerBringsCategoryAndPriceHeading) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
     Type(f.txtCustomer, "City");
     Pick(1);
     Key(f.txtCustomer, 13);
@@ -20,7 +22,7 @@ TEST_F(CustomerEntry, AChosenCustomerBringsCategoryAndPriceHeading) {
     EXPECT_EQ(f.lstAvailable.ColumnHeaders[2].Text, "Spl. Price");
 }
 
-TEST_F(CustomerEntry, TheListPageOffersAllCustomersButANewNoteDoesNot) {
+TEST_F(ScreenTest, TheListPageOffersAllCustomersButANewNoteDoesNot) {
     Zuro_frmDispatch_Dispatch& listPage = Open(1);
     Type(listPage.txtCustomer, "A");
     EXPECT_EQ(ListRows().at(0), "ALL CUSTOMERS");
@@ -32,14 +34,12 @@ TEST_F(CustomerEntry, TheListPageOffersAllCustomersButANewNoteDoesNot) {
 }
 
 TEST_F(CustomerEntry, EnterWithTheListOpenTakesItsHighlightedRow) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
     Type(f.txtCustomer, "Anand");
     Key(f.txtCustomer, 13);
     EXPECT_EQ(std::tuple(f.txtCustomer.Tag, f.txtCustomerID.Text()), std::tuple("C001", "C001"));
 }
 
 TEST_F(CustomerEntry, ClearingTheNameClearsTheCodeOnLeaving) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
     f.txtCustomerID.SetText("C005");
     Type(f.txtCustomer, "");
     f.txtSalesman.SetFocus();
@@ -47,7 +47,6 @@ TEST_F(CustomerEntry, ClearingTheNameClearsTheCodeOnLeaving) {
 }
 
 TEST_F(CustomerEntry, SmallHelpers) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
     EXPECT_EQ(Zuro_frmDispatch_Dispatch::DoubleQuotes("Devi's O'Mart"), "Devi''s O''Mart");
     int key = 'q';
     Zuro_frmDispatch_Dispatch::ToUpperKey(key);
@@ -55,7 +54,6 @@ TEST_F(CustomerEntry, SmallHelpers) {
 }
 
 TEST_F(CustomerEntry, CtrlF7AsksForAFormTheScreenNeverMakes) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
     int key = 118;
     f.HandleCtrlF7(key, 2);
     EXPECT_TRUE(TranscriptHas("error 91 Global : HandleCtrlF7 : "));
@@ -66,7 +64,6 @@ TEST_F(CustomerEntry, CtrlF7AsksForAFormTheScreenNeverMakes) {
 }
 
 TEST_F(CustomerEntry, TheCustomerFormHandsBackACustomer) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
     f.nCustomerEntrySource = 2;
     f.CustomerCallBack("C009", "Lakshmi Provisions");
     EXPECT_EQ(std::tuple(Box(f.txtCustomerID), f.ActiveControl()), std::tuple("C009|C009", &f.txtCustomerID));
@@ -76,7 +73,6 @@ TEST_F(CustomerEntry, TheCustomerFormHandsBackACustomer) {
 }
 
 TEST_F(CustomerEntry, TheFiguresOfTheCreditLine) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
     // A limit and a limit of -1 (N/A) are read by the customer-refusals session.
     // A customer in credit shows a negative amount owed.
     EXPECT_GT(f.GetOutstandingBalance("C011"), 0);
@@ -90,7 +86,6 @@ TEST_F(CustomerEntry, TheFiguresOfTheCreditLine) {
 }
 
 TEST_F(CustomerEntry, AnUnknownCustomerReadsZeroEverywhere) {
-    Zuro_frmDispatch_Dispatch& f = Open(2);
     f.ShowCustomerCredit("No Such Customer", true);
     EXPECT_EQ(
         LastStatus(),

@@ -25,10 +25,14 @@ protected:
         return rows;
     }
 
+    // The screen open for items with row 1 holding the item in a unit of that rate.
+    void OpenWithLine(const std::string& code, const std::string& uomID, double rate, long mode = 2) {
+        OpenForItems(mode);
+        ItemLine(code, uomID, rate);
+    }
     // Marie in boxes of 24 on row 1, its stock list loaded as moving to the row does.
     void MarieListed() {
-        OpenForItems();
-        ItemLine("FD001", "2", 24);
+        OpenWithLine("FD001", "2", 24);
         form->DispatchBatchDetails("FD001", Cell(grid::colBatch), Cell(grid::colSalePrice), 1, 0, 0, "");
     }
 };
@@ -67,8 +71,7 @@ TEST_F(BatchList, TheListShowsStockInTheRowsUnitAndMarksFreeStock) {
 }
 
 TEST_F(BatchList, MovingOntoARowShowsItsBatchesUnlessTheRowHasNoName) {
-    OpenForItems();
-    ItemLine("FD001", "2", 24);
+    OpenWithLine("FD001", "2", 24);
     form->DTFlexDispatch_RowColChange(1, grid::colQuantity);
     EXPECT_EQ(std::tuple(form->FrameAvailable.Visible, form->cmdChange.Visible), std::tuple(true, true));
     EXPECT_GT(form->lstAvailable.Count(), 0);
@@ -79,8 +82,7 @@ TEST_F(BatchList, MovingOntoARowShowsItsBatchesUnlessTheRowHasNoName) {
 }
 
 TEST_F(BatchList, TheRowsBatchIsSelectedAndTheRowTakesTheEntryTheUserMovesTo) {
-    OpenForItems();
-    ItemLine("FD001", "2", 24);
+    OpenWithLine("FD001", "2", 24);
     SetCell(grid::colBatch, "mb2402");
     form->DispatchBatchDetails("FD001", Cell(grid::colBatch), Cell(grid::colSalePrice), 1, 0, 0, "");
     EXPECT_EQ(form->lstAvailable.SelectedIndex(), 3) << "batch numbers match without regard to case";
@@ -114,8 +116,7 @@ TEST_F(BatchList, ABatchPricedItemTakesThePriceOfTheEntry) {
 }
 
 TEST_F(BatchList, InAnAmendmentAnExpiredBatchTheNoteHoldsComesBack) {
-    OpenForItems(7);
-    ItemLine("FD001", "2", 24);
+    OpenWithLine("FD001", "2", 24, 7);
     SetCell(grid::colBatch, "MB2312");
     SetCell(grid::colStoredQty, "2");
     SetCell(grid::colBatchCode, "3");
@@ -140,8 +141,7 @@ TEST_F(BatchList, InAnAmendmentAnExpiredBatchTheNoteHoldsComesBack) {
 }
 
 TEST_F(BatchList, InAnAmendmentAnItemWithoutBatchesTakesItsLineBackOnTheEntryOfItsKind) {
-    OpenForItems(7);
-    ItemLine("PC002", "4", 1);
+    OpenWithLine("PC002", "4", 1, 7);
     SetCell(grid::colStoredQty, "5");
     form->dUOMRate = 1;
     // At most a saleable and a free entry: the row's kind takes back what it held.
@@ -159,8 +159,7 @@ TEST_F(BatchList, InAnAmendmentAnItemWithoutBatchesTakesItsLineBackOnTheEntryOfI
 }
 
 TEST_F(BatchList, AnItemWithoutBatchesHasItsFirstEntrySelected) {
-    OpenForItems();
-    ItemLine("PC002", "4", 1);
+    OpenWithLine("PC002", "4", 1);
     form->DispatchBatchDetails("PC002", "", "999", 0, 0, 0, "");
     ASSERT_GT(form->lstAvailable.Count(), 0);
     EXPECT_EQ(form->lstAvailable.SelectedIndex(), 1);

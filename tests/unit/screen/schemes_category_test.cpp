@@ -47,15 +47,11 @@ TEST_F(SpecialCategory, TheSchemesLinesShareItsFreeRows) {
     const auto free = FreeRowsOf("PM002");
     ASSERT_EQ(free.size(), 1u);
     const std::string serial = Cell(free[0], colSerialNo);
-    EXPECT_EQ(Cell(free[0], colQuantity), "2");  // 24 together: two steps of 10
-    EXPECT_EQ(Cell(free[0], colItemCheck), "");
-    EXPECT_EQ(Cell(free[0], colSplCatSerial), "1,3,2");
-    EXPECT_EQ(Cell(free[0], colMultiSpecialCatSchemeDetail), "911|9111|0|0");
-    for (int row : {1, 2, 3}) {
-        EXPECT_EQ(Cell(row, colSplCatSchemeID), "911") << row;
-        EXPECT_EQ(Cell(row, colSplCatSerial), serial + ",") << row;
-        EXPECT_EQ(Cell(row, colSplCategoryScheme), "1") << row;
-    }
+    // 24 together: two steps of 10.
+    EXPECT_EQ(Row(free[0], {colQuantity, colItemCheck, colSplCatSerial, colMultiSpecialCatSchemeDetail}),
+              "2||1,3,2|911|9111|0|0");
+    for (int row : {1, 2, 3})
+        EXPECT_EQ(Row(row, {colSplCatSchemeID, colSplCatSerial, colSplCategoryScheme}), "911|" + serial + ",|1") << row;
 
     // Nothing changed: the pass is not run again.
     const auto before = Rows();

@@ -1,5 +1,4 @@
 #include <stdexcept>
-#include <tuple>
 
 #include "host_fixture.h"
 #include "platform/controls.h"

@@ -1,4 +1,3 @@
-#include <tuple>
 
 #include "host_fixture.h"
 #include "platform/convert.h"

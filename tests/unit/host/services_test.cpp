@@ -1,7 +1,6 @@
 // The plain host's dialogs, messages, labels, settings and printing errors.
 #include <fstream>
 #include <stdexcept>
-#include <tuple>
 
 #include "host_fixture.h"
 #include "platform/convert.h"

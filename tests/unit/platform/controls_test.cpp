@@ -1,7 +1,6 @@
 // Controls: the focus move and the refusal of focus, the events a program's write
 // raises, the refusal of a bad index, and the list view's items counted from 1.
 #include <gtest/gtest.h>
-#include <tuple>
 
 #include <string>
 #include <vector>

@@ -1,6 +1,5 @@
 // The runtime's conversions: dates, numbers and text, rounding, and Format.
 #include <gtest/gtest.h>
-#include <tuple>
 
 #include <limits>
 #include <string>

@@ -1,6 +1,5 @@
 // The database layer: the recordset, and the connections that inject faults and record calls.
 #include <gtest/gtest.h>
-#include <tuple>
 
 #include <memory>
 #include <string>

@@ -4,7 +4,6 @@
 // event the grid raises is written down in order.
 
 #include <gtest/gtest.h>
-#include <tuple>
 
 #include <string>
 #include <utility>

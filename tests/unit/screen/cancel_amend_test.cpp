@@ -2,7 +2,6 @@
 // table and the grid as they were, a quote in the remarks is doubled, and of two
 // clerks changing the same note only one gets through.
 #include <functional>
-#include <tuple>
 #include <utility>
 
 #include "grid/row_model/grid_columns.h"

@@ -2,7 +2,6 @@
 // note is printed.
 #include <filesystem>
 #include <fstream>
-#include <tuple>
 
 #include "grid/row_model/grid_columns.h"
 #include "screen_fixture.h"

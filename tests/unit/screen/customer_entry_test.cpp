@@ -1,6 +1,4 @@
 // Choosing the customer, what comes with it, and the credit line.
-#include <tuple>
-
 #include "screen_fixture.h"
 
 namespace screen_test {

@@ -3,7 +3,6 @@
 // customer's text, the stored notes' status bits no demo note carries, and the
 // not-found dialog of a purchase order.
 #include <memory>
-#include <tuple>
 
 #include "lists/stored_note_words.h"
 #include "platform/recording_connection.h"

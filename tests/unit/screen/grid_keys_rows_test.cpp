@@ -1,6 +1,5 @@
 // The grid's keys and rows: free rows that cannot be typed in, deleting a line with
 // its free rows, the links that close up behind it, and the grid's two ends.
-#include <tuple>
 #include <vector>
 
 #include "grid/row_model/grid_columns.h"

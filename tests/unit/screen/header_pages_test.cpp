@@ -1,6 +1,4 @@
 // The two pages, their layout and focus, and the note's number and document type.
-#include <tuple>
-
 #include "grid/row_model/grid_columns.h"
 #include "screen_fixture.h"
 
@@ -31,8 +29,7 @@ TEST_F(HeaderPages, ANewNoteHasItsCustomerBoxesInThePartyFrame) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     EXPECT_EQ(std::tuple(f.txtCustomer.Container, f.txtCustomerID.Container, f.txtref.Locked),
               std::tuple(&f.Frame4, &f.Frame4, false));
-    EXPECT_TRUE(f.cmdSave.TabStop);
-    EXPECT_FALSE(f.cmdContinue.TabStop);
+    EXPECT_EQ(std::tuple(f.cmdSave.TabStop, f.cmdContinue.TabStop), std::tuple(true, false));
 }
 
 TEST_F(HeaderPages, TheSecondFocusRingWalksBothWaysInConfirmationModes) {

@@ -1,7 +1,5 @@
 // The stock list of a line: what the stock procedures offer, how the list shows it,
 // and what the line takes from the entry selected.
-#include <tuple>
-
 #include "screen_fixture.h"
 
 namespace screen_test {

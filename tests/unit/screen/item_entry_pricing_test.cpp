@@ -1,7 +1,5 @@
 // An item typed by code or name, and the price and flags the line takes from the
 // item master.
-#include <tuple>
-
 #include "screen_fixture.h"
 
 namespace screen_test {

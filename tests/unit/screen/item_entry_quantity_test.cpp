@@ -1,6 +1,4 @@
 // The checks of a quantity typed in a line: its syntax, its size, and the stock.
-#include <tuple>
-
 #include "screen_fixture.h"
 
 namespace screen_test {

@@ -2,7 +2,6 @@
 // stood before the save: every cell of every row, the hidden ones included, but for
 // the columns the loader is meant to fill or to leave out.
 #include <set>
-#include <tuple>
 
 #include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"

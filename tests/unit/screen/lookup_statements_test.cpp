@@ -1,7 +1,5 @@
 // The item look-up: which statement the list runs in each mode, when it opens, and a
 // pick landing in the grid's cell editor.
-#include <tuple>
-
 #include "host/auto_list.h"
 #include "screen_fixture.h"
 

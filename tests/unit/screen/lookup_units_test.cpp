@@ -1,7 +1,5 @@
 // A row's unit of measure: the ladder loaded into lstUOM and the row, the slash walk
 // through the units, a choice from the list, and the check of multi-unit quantities.
-#include <tuple>
-
 #include "screen_fixture.h"
 
 namespace screen_test {

@@ -1,8 +1,6 @@
 // Whichever party the clerk fills, the others narrow to what the mapping allows;
 // a single candidate fills itself, and a previous choice that is still allowed
 // comes back.
-#include <tuple>
-
 #include "screen_fixture.h"
 
 namespace screen_test {

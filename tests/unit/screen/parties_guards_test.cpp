@@ -1,6 +1,5 @@
 // A grid that has lines guards them against a party change that would not suit the
 // items taken: the clerk either drops the lines or gets the old party back.
-#include <tuple>
 #include <utility>
 
 #include "screen/host_services/host_messages.h"

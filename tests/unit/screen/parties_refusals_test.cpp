@@ -1,7 +1,5 @@
 // The refusals of the party boxes: a name typed rather than chosen (4, 6, 8), all
 // categories with a salesman (173), and the checks against the masters.
-#include <tuple>
-
 #include "screen_fixture.h"
 
 namespace screen_test {

@@ -3,7 +3,6 @@
 // marks.
 #include <memory>
 #include <string>
-#include <tuple>
 #include <vector>
 
 #include "platform/fault_connection.h"

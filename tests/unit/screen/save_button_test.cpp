@@ -3,7 +3,6 @@
 // DS type sells, and a line whose item was taken away. Nothing refused is written.
 #include <memory>
 #include <string>
-#include <tuple>
 
 #include "grid/row_model/grid_columns.h"
 #include "platform/recording_connection.h"

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <random>
 #include <string>
-#include <tuple>
 
 #include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"

@@ -2,7 +2,6 @@
 // share, the pass rebuilt only when something changed, its refusal, and the
 // clearing of its free rows with the drift the screen has always had.
 #include <memory>
-#include <tuple>
 
 #include "platform/recording_connection.h"
 #include "schemes_fixture.h"

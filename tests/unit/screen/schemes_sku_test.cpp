@@ -1,8 +1,6 @@
 // The scheme button over item (SKU) schemes: what a first run adds, that a run with
 // nothing changed touches nothing, that a change reruns its item alone, and the
 // refusals. Item schemes applied to one line (FindDispatchSchemes) at the end.
-#include <tuple>
-
 #include "schemes_fixture.h"
 
 namespace screen_test {

@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <tuple>  // the tests compare neighbouring values as one tuple
 #include <vector>
 
 #include "grid/row_model/grid_columns.h"

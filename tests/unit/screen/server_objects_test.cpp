@@ -2,7 +2,6 @@
 // who is mapped to whom, which groups a salesman's DS type sells, the items a dispatch
 // may sell, whether a typed item is among them.
 #include <gtest/gtest.h>
-#include <tuple>
 
 #include <string>
 

@@ -1,7 +1,6 @@
 // Filling the grid from source documents: a ticked confirmation with nothing left, a
 // gone item on the last line, and the load-time scheme links no demo scheme reaches.
 #include <gtest/gtest.h>
-#include <tuple>
 
 #include "grid/row_model/grid_columns.h"
 #include "screen_fixture.h"

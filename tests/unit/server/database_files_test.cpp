@@ -2,7 +2,6 @@
 // left as it was, and a copy is a consistent snapshot.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <tuple>
 
 #include <filesystem>
 #include <fstream>

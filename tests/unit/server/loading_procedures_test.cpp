@@ -1,7 +1,6 @@
 // The procedures a note is filled from, on the demo data: the ladder form of a
 // pending quantity, and what a line finds in stock by batch and by price.
 #include <gtest/gtest.h>
-#include <tuple>
 
 #include "server/procedure_context.h"
 #include "server/procedures/loading_procedures.h"

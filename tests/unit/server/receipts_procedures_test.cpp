@@ -1,7 +1,6 @@
 // Which invoices the receipt screen's listing gives for the forms asked and still
 // outstanding.
 #include <gtest/gtest.h>
-#include <tuple>
 
 #include <string>
 

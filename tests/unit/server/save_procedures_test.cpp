@@ -2,7 +2,6 @@
 // reference and the document type's count, the sales confirmations the note was made
 // from, and the credit gate ahead of it all.
 #include <string>
-#include <tuple>
 
 #include "platform/convert.h"
 #include "save_test_support.h"

@@ -2,7 +2,6 @@
 // order the stock list offers them, free stock only for free lines, all of it or
 // nothing, and never below 0.
 #include <string>
-#include <tuple>
 
 #include "save_test_support.h"
 

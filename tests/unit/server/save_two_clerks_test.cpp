@@ -4,7 +4,6 @@
 // first, exactly one line is stored and the batch ends at 0.
 #include <latch>
 #include <thread>
-#include <tuple>
 
 #include "platform/runtime_error.h"
 #include "save_test_support.h"

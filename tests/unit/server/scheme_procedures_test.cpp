@@ -3,7 +3,6 @@
 // scheme; then whether the demo's free goods can be had.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <tuple>
 
 #include <string>
 #include <vector>

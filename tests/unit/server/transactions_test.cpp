@@ -1,6 +1,5 @@
 // The three transaction calls, and what they mean for a second clerk on the same file.
 #include <gtest/gtest.h>
-#include <tuple>
 
 #include "platform/runtime_error.h"
 #include "server_test_support.h"

@@ -1,6 +1,5 @@
 // The host's global routines: documents and their references, lookups, units of
 // measure, focus and keys.
-
 #include "host_fixture.h"
 #include "platform/controls.h"
 #include "platform/convert.h"

@@ -4,7 +4,6 @@
 #include <functional>
 #include <utility>
 
-#include "grid/row_model/grid_columns.h"
 #include "platform/fault_connection.h"
 #include "screen_fixture.h"
 

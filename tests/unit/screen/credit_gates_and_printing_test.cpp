@@ -3,7 +3,6 @@
 #include <filesystem>
 #include <fstream>
 
-#include "grid/row_model/grid_columns.h"
 #include "screen_fixture.h"
 #include "support/scratch_files.h"
 

@@ -2,8 +2,6 @@
 // selected row that carries its own, what the list procedures are sent for a
 // customer's text, the stored notes' status bits no demo note carries, and the
 // not-found dialog of a purchase order.
-#include <memory>
-
 #include "lists/stored_note_words.h"
 #include "platform/recording_connection.h"
 #include "screen_fixture.h"

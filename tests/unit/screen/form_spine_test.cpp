@@ -1,5 +1,4 @@
 // Opening the screen in each mode, the grid's columns, and closing it.
-#include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
 #include "screen_fixture.h"
 

@@ -1,8 +1,5 @@
 // The grid's keys and rows: free rows that cannot be typed in, deleting a line with
 // its free rows, the links that close up behind it, and the grid's two ends.
-#include <vector>
-
-#include "grid/row_model/grid_columns.h"
 #include "host/auto_list.h"
 #include "screen_fixture.h"
 

@@ -1,5 +1,4 @@
 // The two pages, their layout and focus, and the note's number and document type.
-#include "grid/row_model/grid_columns.h"
 #include "screen_fixture.h"
 
 namespace screen_test {

@@ -1,6 +1,5 @@
 // What the form leaves behind for later steps to read: the no-stock mark, kept serials
 // and an unknown item's batch flags.
-#include "grid/row_model/grid_columns.h"
 #include "screen_fixture.h"
 
 namespace screen_test {

@@ -3,7 +3,6 @@
 // the columns the loader is meant to fill or to leave out.
 #include <set>
 
-#include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
 #include "screen_fixture.h"
 #include "session/key_press.h"

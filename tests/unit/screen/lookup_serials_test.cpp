@@ -1,6 +1,5 @@
 // Row serials: giving them out, finding a row by its serial, and the merge walk that
 // acts on every row a list of serials names.
-#include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
 #include "screen_fixture.h"
 

@@ -1,9 +1,6 @@
 // Free items of other category groups: the table the form hands the host's dialog,
 // the rows the dialog's answer drops, keeps, updates and makes, and the answers a
 // session may queue for the dialog.
-#include <vector>
-
-#include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
 #include "platform/variant_table.h"
 #include "screen_fixture.h"

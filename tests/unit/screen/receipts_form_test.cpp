@@ -1,10 +1,6 @@
 // The receipt screen: what a save writes for each row, what a failure part-way leaves,
 // the columns the two form boxes show, and the number columns kept in step with their
 // marks.
-#include <memory>
-#include <string>
-#include <vector>
-
 #include "platform/fault_connection.h"
 #include "platform/recording_connection.h"
 #include "receipts/zuro_frm_cform_dispatch.h"

@@ -1,10 +1,6 @@
 // The save button's checks of the lines and parties: the health care gate, each line's
 // quantity and name, the mapping of salesman, beat and customer, the items a group or a
 // DS type sells, and a line whose item was taken away. Nothing refused is written.
-#include <memory>
-#include <string>
-
-#include "grid/row_model/grid_columns.h"
 #include "platform/recording_connection.h"
 #include "screen_fixture.h"
 

@@ -1,6 +1,5 @@
 // Saving a keyed note: what is stored, and that a save failing at any call, or
 // refused for stock or credit, leaves every table and the grid as they were.
-#include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
 #include "platform/fault_connection.h"
 #include "screen_fixture.h"

@@ -3,9 +3,7 @@
 #include <chrono>
 #include <cmath>
 #include <random>
-#include <string>
 
-#include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
 #include "platform/runtime_error.h"
 #include "schemes/scheme_arithmetic_quotient.h"

@@ -1,8 +1,6 @@
 // Special category schemes: the totals of all the scheme's lines, the free rows they
 // share, the pass rebuilt only when something changed, its refusal, and the
 // clearing of its free rows with the drift the screen has always had.
-#include <memory>
-
 #include "platform/recording_connection.h"
 #include "schemes_fixture.h"
 

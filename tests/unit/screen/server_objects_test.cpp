@@ -3,8 +3,6 @@
 // may sell, whether a typed item is among them.
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "platform/convert.h"
 #include "screen_fixture.h"
 

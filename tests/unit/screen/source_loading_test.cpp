@@ -2,7 +2,6 @@
 // gone item on the last line, and the load-time scheme links no demo scheme reaches.
 #include <gtest/gtest.h>
 
-#include "grid/row_model/grid_columns.h"
 #include "screen_fixture.h"
 
 namespace screen_test {

@@ -48,25 +48,22 @@ TEST_F(GlobalTest, TheNextReferenceIsThePrefixAndTheCountAfterTheLast) {
 }
 
 TEST_F(GlobalTest, ReferencesSplitIntoLeadAndNumber) {
-    struct Case {
-        const char* reference;
-        long number;
-        int prefix;
-    };
-    for (const Case& c : std::vector<Case>{{"DN1234", 1234, 2}, {"1234", 1234, 0}, {"DN/12X3", 12, 3}, {"DN", 0, 2}}) {
-        EXPECT_EQ(global().ParseDocumentNumber(c.reference), c.number) << c.reference;
-        EXPECT_EQ(global().GetDocumentPrefixLength(c.reference), c.prefix) << c.reference;
+    using Case = std::tuple<const char*, long, int>;
+    for (const auto& [reference, number, prefix] :
+         std::vector<Case>{{"DN1234", 1234, 2}, {"1234", 1234, 0}, {"DN/12X3", 12, 3}, {"DN", 0, 2}}) {
+        EXPECT_EQ(global().ParseDocumentNumber(reference), number) << reference;
+        EXPECT_EQ(global().GetDocumentPrefixLength(reference), prefix) << reference;
     }
-    EXPECT_EQ(global().ParseDocumentNumber(""), 0);
-    EXPECT_EQ(global().GetVoucherPrefix("NO SUCH"), "");
+    EXPECT_EQ(std::tuple(global().ParseDocumentNumber(""), global().GetVoucherPrefix("NO SUCH")), std::tuple(0, ""));
 }
 
 TEST_F(GlobalTest, LookupsEscapeTheirValues) {
-    EXPECT_EQ(global().LookupName("Customer", "CustomerID", "Company_Name", "C2"), "O'Brien Stores");
-    EXPECT_EQ(global().LookupCode("Customer", "CustomerID", "Company_Name", "O'Brien Stores"), "C2");
-    EXPECT_EQ(global().LookupCode("Customer", "CustomerID", "Company_Name", "x' Or '1' = '1"), "");
-    EXPECT_EQ(global().LookupName("Customer", "CustomerID", "Company_Name", "C9"), "");
-    EXPECT_TRUE(global().LookupValue(*connection, "Select Company_Name From Customer Where 1 = 0").IsNull());
+    EXPECT_EQ(std::tuple(global().LookupName("Customer", "CustomerID", "Company_Name", "C2"),
+                         global().LookupCode("Customer", "CustomerID", "Company_Name", "O'Brien Stores"),
+                         global().LookupCode("Customer", "CustomerID", "Company_Name", "x' Or '1' = '1"),
+                         global().LookupName("Customer", "CustomerID", "Company_Name", "C9"),
+                         global().LookupValue(*connection, "Select Company_Name From Customer Where 1 = 0").IsNull()),
+              std::tuple("O'Brien Stores", "C2", "", "", true));
     for (const auto& [reference, found] :
          std::vector<std::pair<std::string, std::string>>{{"SC12", "12"}, {"12", "12"}, {"SC99", ""}, {"SC", ""}})
         EXPECT_EQ(platform::ToText(global().LookupFieldByKey("SOAbstract", "SONumber", reference)), found) << reference;
@@ -85,8 +82,7 @@ TEST_F(GlobalTest, NextRecordsetLeavesTheCallersSetAndFallsBackOnAnEmptyResult) 
     auto result =
         global().NextRecordset(std::make_shared<platform::Recordset>(std::vector<ResultSet>{rowCount, empty}));
     ASSERT_TRUE(result);
-    EXPECT_EQ(result->FieldName(0), "a");
-    EXPECT_TRUE(result->Eof());
+    EXPECT_EQ(std::tuple(result->FieldName(0), result->Eof()), std::tuple("a", true));
     EXPECT_EQ(global().NextRecordset(nullptr), nullptr);
 }
 
@@ -98,25 +94,17 @@ TEST_F(GlobalTest, TheWorkingDateIsTheSessionsAndTransactionsGoByItsDay) {
 }
 
 TEST_F(GlobalTest, UnitRatesFollowTheLadderOfEachItem) {
-    struct Case {
-        const char* item;
-        long uom;
-        double rate;
-    };
-    for (const Case& c : std::vector<Case>{
+    using Case = std::tuple<const char*, long, double>;
+    for (const auto& [item, uom, rate] : std::vector<Case>{
              {"ONE", 2, 0}, {"TWO", 3, 0}, {"three", 2, 12}, {"THREE", 0, 1}, {"NOSUCH", 1, 0}, {"KID'S", 1, 1}})
-        EXPECT_EQ(global().ConvertToBaseUOM(c.item, c.uom), c.rate) << c.item << " " << c.uom;
+        EXPECT_EQ(global().ConvertToBaseUOM(item, uom), rate) << item << " " << uom;
 
-    struct Level {
-        const char* item;
-        long level;
-        double rate;
-        long uom;
-    };
-    for (const Level& c : std::vector<Level>{{"THREE", 1, 1, 1}, {"TWO", 3, 0, 0}, {"NOSUCH", 1, 0, 0}}) {
+    using Level = std::tuple<const char*, long, double, long>;
+    for (const auto& [item, level, rate, levelUom] :
+         std::vector<Level>{{"THREE", 1, 1, 1}, {"TWO", 3, 0, 0}, {"NOSUCH", 1, 0, 0}}) {
         long uom = -1;
-        EXPECT_EQ(global().ConvertWithRate(c.item, c.level, uom), c.rate) << c.item << " " << c.level;
-        EXPECT_EQ(uom, c.uom) << c.item << " " << c.level;
+        EXPECT_EQ(global().ConvertWithRate(item, level, uom), rate) << item << " " << level;
+        EXPECT_EQ(uom, levelUom) << item << " " << level;
     }
 }
 
@@ -124,21 +112,13 @@ TEST_F(GlobalTest, QuantityExpressionsAlignToTheBaseUnitOnTheRight) {
     double base = 0;
     int parts = 0;
     EXPECT_TRUE(global().ValidateUOMQuantity("THREE", "2*0*5", parts, base));
-    EXPECT_EQ(parts, 3);
-    EXPECT_EQ(base, 2 * 144 + 5);
-    struct Case {
-        const char* item;
-        const char* text;
-        double base;
-    };
-    for (const Case& c : std::vector<Case>{{"THREE", "3*4", 3 * 12 + 4},
-                                           {"TWO", "3*4", 40},
-                                           {"THREE", "7", 7},
-                                           {"TWO", "1.5*0", 18},
-                                           {"THREE", " 1 * 0 * 0 ", 144},
-                                           {"THREE", "0*0*0", 0}}) {
-        EXPECT_TRUE(Valid(c.item, c.text, &base)) << c.item << " " << c.text;
-        EXPECT_EQ(base, c.base) << c.item << " " << c.text;
+    EXPECT_EQ(std::tuple(parts, base), std::tuple(3, 2 * 144 + 5));
+    const std::tuple<const char*, const char*, double> cases[] = {
+        {"THREE", "3*4", 3 * 12 + 4},  {"TWO", "3*4", 40},   {"THREE", "7", 7}, {"TWO", "1.5*0", 18},
+        {"THREE", " 1 * 0 * 0 ", 144}, {"THREE", "0*0*0", 0}};
+    for (const auto& [item, text, expected] : cases) {
+        EXPECT_TRUE(Valid(item, text, &base)) << item << " " << text;
+        EXPECT_EQ(base, expected) << item << " " << text;
     }
     EXPECT_EQ(global().ConvertToDisplayUOM("THREE", "1*1*1"), 157);
     EXPECT_EQ(global().ConvertToDisplayUOM("THREE", "x"), 0);

@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <string>
+#include <tuple>  // the tests compare neighbouring values as one tuple
 #include <vector>
 
 #include "host/dialog_answers.h"

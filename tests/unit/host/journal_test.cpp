@@ -1,3 +1,4 @@
+
 #include "host_fixture.h"
 #include "platform/convert.h"
 #include "platform/fault_connection.h"
@@ -55,8 +56,7 @@ TEST_F(JournalTest, NothingIsPostedForADispatchThatIsNotThereOrHasNoValue) {
     EXPECT_NE(error.find("99"), std::string::npos) << error;
     error.clear();
     EXPECT_FALSE(journal().Journal(2, 16, error)) << "a note without lines";
-    EXPECT_FALSE(error.empty());
-    EXPECT_TRUE(Postings().empty());
+    EXPECT_EQ(std::tuple(error.empty(), Postings().empty()), std::tuple(false, true));
 }
 
 TEST_F(JournalTest, AServerErrorGivesFalseAndTheReason) {
@@ -66,8 +66,7 @@ TEST_F(JournalTest, AServerErrorGivesFalseAndTheReason) {
     faulty->FailNthCall(5);
     std::string error;
     EXPECT_FALSE(faultyHost.Global().GetJournalService().Journal(2, 15, error));
-    EXPECT_FALSE(error.empty());
-    EXPECT_FALSE(faulty->InTransaction());
+    EXPECT_EQ(std::tuple(error.empty(), faulty->InTransaction()), std::tuple(false, false));
     EXPECT_TRUE(Postings().empty()) << "the first row went back with the second";
 }
 

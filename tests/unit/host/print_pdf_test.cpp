@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <tuple>
 
 #include <cstdio>
 #include <filesystem>
@@ -120,21 +121,17 @@ TEST(NoteLayoutTest, ShowsOnlyWhatTheProceduresAnswered) {
     note.rows = {{"A1", "BOX", 2.0, 40.0, ""}, {"A2", "PCS", 3.0, 0.0, "Free"}};
     const host::NoteLayout layout = host::LayOutNote(note);
 
-    EXPECT_EQ(layout.number, "DN7");
-    EXPECT_EQ(layout.date, "");
+    EXPECT_EQ(std::tuple(layout.number, layout.date), std::tuple("DN7", ""));
     ASSERT_EQ(layout.parties.size(), 1u);
-    EXPECT_EQ(layout.parties[0].name, "Acme");
-    EXPECT_TRUE(layout.parties[0].lines.empty());
+    EXPECT_EQ(std::tuple(layout.parties[0].name, layout.parties[0].lines.empty()), std::tuple("Acme", true));
     ASSERT_EQ(layout.details.size(), 1u);
-    EXPECT_EQ(layout.details[0].second, "TN 01 AB 1234");
-    EXPECT_TRUE(layout.remarks.empty());
+    EXPECT_EQ(std::tuple(layout.details[0].second, layout.remarks.empty()), std::tuple("TN 01 AB 1234", true));
 
     std::vector<std::string> headings;
     for (const auto& column : layout.columns) headings.push_back(column.heading);
     EXPECT_EQ(headings, (std::vector<std::string>{"#", "Code", "Unit", "Qty", "Value"}));
-    EXPECT_FALSE(layout.rows[0].free);
-    EXPECT_TRUE(layout.rows[1].free);
-    EXPECT_EQ(layout.rows[1].cells[4], "Free");
+    EXPECT_EQ(std::tuple(layout.rows[0].free, layout.rows[1].free, layout.rows[1].cells[4]),
+              std::tuple(false, true, "Free"));
     EXPECT_EQ(layout.totals[3], "") << "boxes and pieces are not added up";
     EXPECT_EQ(layout.totals[4], "40.00");
 }

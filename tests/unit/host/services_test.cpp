@@ -60,12 +60,10 @@ TEST_F(DialogsTest, LabelsComeFromTheTableWithTheBaseTextAsFallback) {
     EXPECT_EQ(messages().GetLabel("Serial No: "), "Numero: ");
     EXPECT_EQ(messages().GetLabel("serial no: ", "label"), "Numero: ") << "keys match without regard to case";
     EXPECT_EQ(messages().GetLabel("Customer"), "Customer") << "a caption of another kind does not serve";
-    EXPECT_EQ(messages().GetLabel("Customer", "Column"), "Client");
-    EXPECT_EQ(messages().GetLabel("Untranslated"), "Untranslated");
-    EXPECT_EQ(messages().GetLabel("Select Beat"), "Select Beat");
-    EXPECT_EQ(messages().GetAllCustomersText(), "TOUS LES CLIENTS");
-    EXPECT_EQ(messages().GetBaseLabel("Numero: "), "Serial No: ");
-    EXPECT_EQ(messages().GetBaseLabel("Qty"), "Qty");
+    EXPECT_EQ(std::tuple(messages().GetLabel("Customer", "Column"), messages().GetLabel("Untranslated"),
+                         messages().GetLabel("Select Beat"), messages().GetAllCustomersText(),
+                         messages().GetBaseLabel("Numero: "), messages().GetBaseLabel("Qty")),
+              std::tuple("Client", "Untranslated", "Select Beat", "TOUS LES CLIENTS", "Serial No: ", "Qty"));
     int reads = 0;
     for (const auto& statement : Statements()) reads += statement.find("From Labels") != std::string::npos;
     EXPECT_EQ(reads, 1) << "the table is read once";

@@ -43,8 +43,7 @@ TEST(Recordset, NextRecordsetStepsThroughEverySetThenCloses) {
     ResultSet answer{{"Serial"}, {{Value(42)}}};
     Recordset set(std::vector<ResultSet>{rowCount, answer, Customers()});
 
-    EXPECT_EQ(set.RowsAffected(), 3);
-    EXPECT_TRUE(set.Eof());
+    EXPECT_EQ(std::tuple(set.RowsAffected(), set.Eof()), std::tuple(3, true));
     ASSERT_TRUE(set.NextRecordset());
     EXPECT_EQ(set.Fields(0), Value(42));
     ASSERT_TRUE(set.NextRecordset());

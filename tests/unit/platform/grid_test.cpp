@@ -143,8 +143,7 @@ TEST_F(NewNoteGrid, ARefusedEditStaysOpenWithTheTextTyped) {
 
     // Escape gives up a refused edit and puts the cell back.
     grid.UserKey(27);
-    EXPECT_FALSE(grid.Editing());
-    EXPECT_EQ(grid.GetCell(1, 1), "");
+    EXPECT_EQ(std::tuple(grid.Editing(), grid.GetCell(1, 1)), std::tuple(false, ""));
 }
 
 TEST_F(NewNoteGrid, AHandlerThatRemovesTheEditedRowLeavesTheEntryRowInPlace) {
@@ -157,8 +156,7 @@ TEST_F(NewNoteGrid, AHandlerThatRemovesTheEditedRowLeavesTheEntryRowInPlace) {
     grid.UserGoto(1, 1);
     grid.UserType("");
     grid.UserKey(13);
-    EXPECT_EQ(grid.GridRows(), 1);
-    EXPECT_TRUE(grid.IsBlankRow(1));
+    EXPECT_EQ(std::tuple(grid.GridRows(), grid.IsBlankRow(1)), std::tuple(1, true));
 }
 
 // Keys in the grid: the KeyCode event first and what a handler can do there, the
@@ -175,16 +173,14 @@ TEST_F(NewNoteGridKeys, LockedColumnsTakeNoTypingAndTheUnitColumnDropsItsList) {
     grid.UserType("99");
     grid.UserKey(8);
     grid.SetCellEdit(1);
-    EXPECT_FALSE(grid.Editing());
-    EXPECT_EQ(grid.GetCell(1, 3), "BATCH-1");
+    EXPECT_EQ(std::tuple(grid.Editing(), grid.GetCell(1, 3)), std::tuple(false, "BATCH-1"));
     EXPECT_EQ(TakeEvents(), Events{});
     EXPECT_EQ(codes.size(), 3u);  // the keys were still reported
 
     grid.SetGridCol(4);
     EXPECT_FALSE(lstUOM.Visible);  // its list does not open on entering
     grid.UserKey('B');
-    EXPECT_TRUE(lstUOM.Visible);
-    EXPECT_FALSE(grid.Editing());
+    EXPECT_EQ(std::tuple(lstUOM.Visible, grid.Editing()), std::tuple(true, false));
     grid.SetGridCol(6);
     EXPECT_FALSE(lstUOM.Visible);
 }
@@ -222,8 +218,7 @@ TEST_F(NewNoteGridKeys, RowColChangeOnlyWhenTheCellMovesAndAProgramMoveDropsTheE
 
     grid.SetGridRow(3);
     EXPECT_EQ(TakeEvents(), Events{"RowColChange 3 1"});  // no AfterColUpdate
-    EXPECT_FALSE(grid.Editing());
-    EXPECT_EQ(grid.GetCell(1, 1), "");
+    EXPECT_EQ(std::tuple(grid.Editing(), grid.GetCell(1, 1)), std::tuple(false, ""));
     EXPECT_EQ(ErrorNumberOf([&] { grid.SetGridRow(4); }), 381);
     EXPECT_EQ(ErrorNumberOf([&] { grid.SetGridCol(0); }), 381);
 }
@@ -241,8 +236,7 @@ TEST_F(NewNoteGridKeys, AChoiceFromTheUnitListIsNoChangeAndARefusedOneKeepsTheLi
     grid.UserKey('X');
     refusedText = "Crate";
     EXPECT_FALSE(grid.ChooseFromList("Crate"));
-    EXPECT_TRUE(lstUOM.Visible);
-    EXPECT_EQ(grid.EditText(), "Crate");
+    EXPECT_EQ(std::tuple(lstUOM.Visible, grid.EditText()), std::tuple(true, "Crate"));
     EXPECT_TRUE(grid.ChooseFromList("Box", true));
     EXPECT_TRUE(lstUOM.Visible);  // asked to stay open
 }
@@ -291,8 +285,7 @@ TEST_F(NewNoteGridRows, TheHandlerMayCancelOrChooseAnotherRowAndTheGridMayAllowN
 
     deleteInstead = 0;
     grid.UserDeleteRow(3);  // the entry row: a new one is offered
-    EXPECT_EQ(grid.GridRows(), 3);
-    EXPECT_TRUE(grid.IsBlankRow(3));
+    EXPECT_EQ(std::tuple(grid.GridRows(), grid.IsBlankRow(3)), std::tuple(3, true));
 
     grid.AllowDeleteRows = false;
     TakeEvents();

@@ -2,6 +2,7 @@
 // and a focus scope that moves the focus with LostFocus then GotFocus.
 #pragma once
 
+#include <tuple>  // the tests compare neighbouring values as one tuple
 #include <utility>
 
 #include "platform/controls.h"

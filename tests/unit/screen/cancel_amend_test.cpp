@@ -4,7 +4,6 @@
 #include <functional>
 #include <utility>
 
-#include "grid/row_model/grid_columns.h"
 #include "platform/fault_connection.h"
 #include "screen_fixture.h"
 
@@ -53,6 +52,7 @@ protected:
 };
 
 TEST_F(StoredNoteTest, EveryCallOfACancelFailingLeavesTablesAndGridAsTheyWere) {
+    expectedErrors = -1;  // each failed run logs its own
     auto& f = OpenNote(screen::mode::Cancel, 2);
     f.txtRemarks.SetText("Shop's shutter down");
     const std::string tables = Tables();
@@ -84,6 +84,7 @@ TEST_F(StoredNoteTest, EveryCallOfACancelFailingLeavesTablesAndGridAsTheyWere) {
 }
 
 TEST_F(StoredNoteTest, EveryCallOfAnAmendmentFailingLeavesTablesGridAndTheOldLinesAsTheyWere) {
+    expectedErrors = -1;  // each failed run logs its own
     auto& f = OpenNote(screen::mode::Amendment, 8);
     f.DTFlexDispatch.SetCell(1, grid::colQuantity, "1");
     f.szEnteredCustomerCode = "C004";
@@ -145,9 +146,10 @@ TEST_F(StoredNoteTest, OfTwoClerksCancellingOneNoteTheSecondIsRefusedByTheDataba
     EXPECT_EQ(second.transcript.ErrorCount(), 1) << "the database refused the second close";
     EXPECT_FALSE(two.bInTransaction);
     // Batch 2's 48 pieces, the openings after the note's day and the reversing rows, once.
-    EXPECT_EQ(Scalar("SELECT Quantity FROM Batch_Products WHERE Batch_Code = 2"), "1248");
-    EXPECT_EQ(Scalar("SELECT Opening_Quantity FROM OpeningDetails WHERE Product_Code = 'FD001' LIMIT 1"), "4368");
-    EXPECT_EQ(Scalar("SELECT COUNT(*) FROM JournalPostings WHERE DocumentID = 8"), "2");
+    EXPECT_EQ(std::tuple(Scalar("SELECT Quantity FROM Batch_Products WHERE Batch_Code = 2"),
+                         Scalar("SELECT Opening_Quantity FROM OpeningDetails WHERE Product_Code = 'FD001' LIMIT 1"),
+                         Scalar("SELECT COUNT(*) FROM JournalPostings WHERE DocumentID = 8")),
+              std::tuple("1248", "4368", "2"));
 }
 
 }  // namespace

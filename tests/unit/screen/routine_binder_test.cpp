@@ -1,6 +1,7 @@
 #include "screen/routine_binder.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -84,10 +85,7 @@ protected:
 };
 
 TEST_F(RoutineBinderTest, WordsAreReadAsTheParameterTypesAndTheResultIsWrittenAsACellTakesIt) {
-    struct Case {
-        std::string routine, word, outcome;
-    };
-    for (const auto& c : std::vector<Case>{
+    for (const auto& [routine, typed, outcome] : std::vector<std::tuple<std::string, std::string, std::string>>{
              // whole numbers round half to even, as the runtime does, and must fit their type
              {"Whole", "2.5", "2"},
              {"Whole", "2147483647", "2147483647"},
@@ -107,18 +105,14 @@ TEST_F(RoutineBinderTest, WordsAreReadAsTheParameterTypesAndTheResultIsWrittenAs
              {"Day", "tomorrow", "refused: argument 1 (dtDay) must be a date (YYYY-MM-DD), was \"tomorrow\""},
              {"Quote", "a b", "\"a b\""},
          })
-        EXPECT_EQ(Outcome(c.routine, {c.word}), c.outcome) << c.routine << " " << c.word;
+        EXPECT_EQ(Outcome(routine, {typed}), outcome) << routine << " " << typed;
     EXPECT_EQ(Outcome("Nothing", {}), "");
     EXPECT_EQ(Outcome("Sum", {"1.5", "2"}), "3.5");
 }
 
 TEST_F(RoutineBinderTest, WrongCountOrKindIsRefusedBeforeTheRoutineRuns) {
-    struct Case {
-        std::string routine;
-        std::vector<std::string> words;
-        std::string reason;
-    };
-    for (const auto& c : std::vector<Case>{
+    using Case = std::tuple<std::string, std::vector<std::string>, std::string>;
+    for (const auto& [routine, words, reason] : std::vector<Case>{
              {"Whole", {}, "takes 1 argument (nValue), was given 0"},
              {"Whole", {"1", "2"}, "takes 1 argument (nValue), was given 2"},
              {"Nothing", {"1"}, "takes no arguments, was given 1"},
@@ -130,7 +124,7 @@ TEST_F(RoutineBinderTest, WrongCountOrKindIsRefusedBeforeTheRoutineRuns) {
              {"Sum", {"1", "two"}, "argument 2 (nB) must be a number, was \"two\""},
              {"Key", {"13", "shift"}, "argument 2 (Shift) must be a number, was \"shift\""},
          }) {
-        EXPECT_EQ(Outcome(c.routine, c.words), "refused: " + c.reason) << c.routine;
+        EXPECT_EQ(Outcome(routine, words), "refused: " + reason) << routine;
     }
     EXPECT_EQ(probe.runs, 0);
 }
@@ -145,14 +139,12 @@ TEST_F(RoutineBinderTest, ByReferenceParametersAreOutsInOrderUnderTheirNames) {
     // An in-out parameter takes its word and is reported with what the routine left in it.
     call = Call("Key", {"13", "1"});
     ASSERT_EQ(call.outs.size(), 1u);
-    EXPECT_EQ(call.outs[0].first, "KeyCode");
-    EXPECT_EQ(platform::ToText(call.outs[0].second), "27");
+    EXPECT_EQ(std::tuple(call.outs[0].first, platform::ToText(call.outs[0].second)), std::tuple("KeyCode", "27"));
 }
 
 TEST_F(RoutineBinderTest, AnOptionalParameterLeftOutTakesItsWord) {
     Call("Credit", {"Shah Traders"});
-    EXPECT_EQ(probe.lastName, "Shah Traders");
-    EXPECT_FALSE(probe.lastFlag);
+    EXPECT_EQ(std::tuple(probe.lastName, probe.lastFlag), std::tuple("Shah Traders", false));
     Call("Credit", {"Shah Traders", "true"});
     EXPECT_TRUE(probe.lastFlag);
 }

@@ -1,10 +1,6 @@
 // The save button's checks of the lines and parties: the health care gate, each line's
 // quantity and name, the mapping of salesman, beat and customer, the items a group or a
 // DS type sells, and a line whose item was taken away. Nothing refused is written.
-#include <memory>
-#include <string>
-
-#include "grid/row_model/grid_columns.h"
 #include "platform/recording_connection.h"
 #include "screen_fixture.h"
 
@@ -31,23 +27,19 @@ protected:
 TEST_F(SaveButton, ASalesmanOffTheBeatAndLinesTheGroupOrDSTypeDoesNotSellAreRefused) {
     RaviNote();
     const std::string notes = Notes();
-    struct Case {
-        std::string salesman, salesmanID, group, groupTag;
-        long number;
-    } cases[] = {
+    const std::tuple<std::string, std::string, std::string, std::string, long> cases[] = {
         {"Chitra Devi", "3", "Foods", "1", 35},  // Chitra serves Velachery only
         {"Arun Kumar", "1", "Beverages", "2", 13},
         // Chitra's DS type sells health and personal care, whatever group the note shows.
         {"Chitra Devi", "3", "Foods", "1", 13},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.number);
-        if (c.number == 13 && c.salesmanID == "3")
-            Scalar("INSERT INTO SalesmanBeat (SalesmanID, BeatID) VALUES (3, 1)");
-        Pick(f.txtSalesman, c.salesman, c.salesmanID);
-        Pick(f.txtCategory, c.group, c.groupTag);
+    for (const auto& [salesman, salesmanID, group, groupTag, number] : cases) {
+        SCOPED_TRACE(number);
+        if (number == 13 && salesmanID == "3") Scalar("INSERT INTO SalesmanBeat (SalesmanID, BeatID) VALUES (3, 1)");
+        Pick(f.txtSalesman, salesman, salesmanID);
+        Pick(f.txtCategory, group, groupTag);
         f.cmdSave_Click();
-        EXPECT_EQ(Numbered(), std::vector<long>{c.number});
+        EXPECT_EQ(Numbered(), std::vector<long>{number});
         EXPECT_EQ(Focused(), "cmdSave");
     }
     EXPECT_EQ(Notes(), notes);
@@ -57,17 +49,14 @@ TEST_F(SaveButton, ASalesmanOffTheBeatAndLinesTheGroupOrDSTypeDoesNotSellAreRefu
     f.cmdSave_Click();
     EXPECT_TRUE(Numbered().empty());
     EXPECT_NE(Notes(), notes);
-    EXPECT_EQ(Errors(), 0) << ErrorLines();
 }
 
 TEST_F(SaveButton, ALineWhoseItemWasTakenAwayStopsTheSaveAtItsRow) {
     RaviNote();
     SetCell(colItemCode, "");
     f.cmdSave_Click();
-    EXPECT_EQ(LastStatus(), "Invalid Item selected");
-    EXPECT_EQ(f.DTFlexDispatch.GridRow(), 1);
-    EXPECT_EQ(f.DTFlexDispatch.GridCol(), colItemName);
-    EXPECT_EQ(Notes(), "9");
+    EXPECT_EQ(std::tuple(LastStatus(), f.DTFlexDispatch.GridRow(), f.DTFlexDispatch.GridCol(), Notes()),
+              std::tuple("Invalid Item selected", 1, colItemName, "9"));
 }
 
 TEST_F(SaveButton, HealthCareItemsWithAPriceNeedACustomerWithADrugLicence) {
@@ -86,8 +75,7 @@ TEST_F(SaveButton, AHealthCareLineForACustomerWithoutADrugLicenceOrAZeroQuantity
     RaviNote();
     SetCell(colQuantity, "0", 2);
     f.cmdSave_Click();
-    EXPECT_EQ(LastStatus(), "Invalid quantity");
-    EXPECT_EQ(Focused(), "DTFlexDispatch");
+    EXPECT_EQ(std::tuple(LastStatus(), Focused()), std::tuple("Invalid quantity", "DTFlexDispatch"));
 
     SetCell(colItemCode, "HC001", 2);
     SetCell(colSalePrice, "18", 2);
@@ -117,6 +105,7 @@ TEST_F(SaveButton, EveryLineNeedsTheNameOfItsCode) {
 // writes the statement; the server runs one statement a call, so the handler logs the
 // refusal and nothing is written.
 TEST_F(ScreenTest, ACustomerCodeCarryingAStatementMeetsTheServersRefusal) {
+    expectedErrors = 1;
     auto recorder = std::make_shared<platform::RecordingConnection>(database);
     UseConnection(recorder);
     Open(2);

@@ -60,6 +60,12 @@ protected:
         form->DTFlexDispatch.SetCell(row, grid::colQuantity, platform::NumberToText(quantity));
     }
     std::string Cell(int row, int col) { return form->DTFlexDispatch.GetCell(row, col); }
+    // Several cells of a row joined with "|", to check them at once.
+    std::string Row(int row, std::initializer_list<int> cols) {
+        std::string text;
+        for (const int& col : cols) text += (&col == cols.begin() ? "" : "|") + Cell(row, col);
+        return text;
+    }
     void Click() { form->cmdApplyScheme.Click.Raise(); }
     void Choose(const std::string& item, int times = 1) {
         for (int i = 0; i < times; ++i) answers.Queue("SelectFreeItem", {item});

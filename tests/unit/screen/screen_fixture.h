@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <tuple>  // the tests compare neighbouring values as one tuple
 #include <vector>
 
 #include "grid/row_model/grid_columns.h"
@@ -28,6 +29,10 @@ class ScreenTest : public ::testing::Test {
 protected:
     ScreenTest();
     ~ScreenTest() override;
+    // A test ends with no error logged, unless it names how many it caused (-1: any).
+    void TearDown() override {
+        if (expectedErrors >= 0) EXPECT_EQ(Errors(), expectedErrors) << ErrorLines();
+    }
 
     // Opens the screen in a mode, as the host does, on 2026-11-22 unless told.
     screen::Zuro_frmDispatch_Dispatch& Open(long mode, platform::Date serverDate = Today(),
@@ -241,6 +246,7 @@ protected:
     std::unique_ptr<screen::Zuro_clsDispatch> component;
     screen::Zuro_frmDispatch_Dispatch* form = nullptr;
     int enterKey = 13;
+    int expectedErrors = 0;
 };
 
 // A new note for the party tests, with what its opening said already taken.

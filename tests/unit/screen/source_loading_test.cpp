@@ -2,7 +2,6 @@
 // gone item on the last line, and the load-time scheme links no demo scheme reaches.
 #include <gtest/gtest.h>
 
-#include "grid/row_model/grid_columns.h"
 #include "screen_fixture.h"
 
 namespace screen_test {
@@ -26,10 +25,9 @@ TEST_F(SourceLoadingTest, ASpentConfirmationGivesNoLines) {
     auto& g = Open(screen::mode::FromSalesConfirmation);
     TickConfirmation("9");
     g.LoadItemDetails();
-    EXPECT_TRUE(TranscriptHas("status 1 No details to display"));
-    EXPECT_EQ(LastStatus(), "Ready");
-    EXPECT_TRUE(g.Frame2.Enabled);
-    EXPECT_FALSE(g.Frame3.Enabled);
+    EXPECT_EQ(
+        std::tuple(TranscriptHas("status 1 No details to display"), LastStatus(), g.Frame2.Enabled, g.Frame3.Enabled),
+        std::tuple(true, "Ready", true, false));
 }
 
 TEST_F(SourceLoadingTest, ALastLineOfAnItemGoneFromTheMasterLeavesItsRowBehind) {
@@ -39,8 +37,7 @@ TEST_F(SourceLoadingTest, ALastLineOfAnItemGoneFromTheMasterLeavesItsRowBehind) 
     f.LoadItemDetails();
     EXPECT_EQ(f.DTFlexDispatch.GridRows(), 4);
     EXPECT_EQ(Cells({colItemCode, colItemName}), "FD001|Marie Biscuit 100g");
-    EXPECT_EQ(Cell(colItemCode, 4), "FD099");
-    EXPECT_EQ(Cell(colItemName, 4), "");
+    EXPECT_EQ(std::tuple(Cell(colItemCode, 4), Cell(colItemName, 4)), std::tuple("FD099", ""));
 }
 
 // Two bands of a same-item scheme that repeats, both met: two free rows, and the
@@ -59,8 +56,7 @@ TEST_F(SourceLoadingTest, SameItemSchemeLinksTheLastFreeRowAndOtherItemSchemeLin
     f.LoadPOItems();
     // 480 meets every 100 (40 pieces) and every 200 (48 pieces), in boxes of 24.
     EXPECT_EQ(Cells({colItemCode, colSchemeID, colPrevQty}), "FD001|101|480");
-    EXPECT_EQ(Cell(colQuantity, 2), "1.66666666666667");
-    EXPECT_EQ(Cell(colQuantity, 3), "2");
+    EXPECT_EQ(std::tuple(Cell(colQuantity, 2), Cell(colQuantity, 3)), std::tuple("1.66666666666667", "2"));
     EXPECT_EQ(Cell(colItemCheck), Cell(colSerialNo, 3));
     EXPECT_NE(Cell(colSerialNo, 2), Cell(colSerialNo, 3));
     EXPECT_EQ(Cell(colPromptMessage), "Marie: 10 pieces free on every 100");
@@ -68,9 +64,9 @@ TEST_F(SourceLoadingTest, SameItemSchemeLinksTheLastFreeRowAndOtherItemSchemeLin
     // Soap: 144 meets 100 up (20 sachets) and band 144-287 (10), lowest start first.
     EXPECT_EQ(Cell(colItemCode, 4), "PC001");
     EXPECT_EQ(Cell(colItemCheck, 4), Cell(colSerialNo, 5) + "," + Cell(colSerialNo, 6));
-    EXPECT_EQ(Cell(colQuantity, 5) + "|" + Cell(colQuantity, 6), "2|1");
-    EXPECT_EQ(Cell(colPrimaryItemCode, 6), "PC001");
-    EXPECT_EQ(f.DTFlexDispatch.GridRows(), 6);
+    EXPECT_EQ(std::tuple(Cell(colQuantity, 5) + "|" + Cell(colQuantity, 6), Cell(colPrimaryItemCode, 6),
+                         f.DTFlexDispatch.GridRows()),
+              std::tuple("2|1", "PC001", 6));
 }
 
 }  // namespace

@@ -64,8 +64,7 @@ TEST(DatabaseFiles, MakingRefusesAnExistingFileAndCleansUpAFailure) {
                     CreateDatabaseFromScripts(broken, {SchemaScript(), "CREATE TABLE Customer (x);"});
                 }),
                 HasSubstr("already exists"));
-    EXPECT_FALSE(exists(broken));
-    EXPECT_FALSE(exists(broken + "-wal"));
+    EXPECT_EQ(std::tuple(exists(broken), exists(broken + "-wal")), std::tuple(false, false));
 
     const std::string anonymous = ScratchPath("anonymous", ".db");
     EXPECT_THAT(Refusal([&] { CreateDatabaseFromScripts(anonymous, {"CREATE TABLE t (a);"}); }),

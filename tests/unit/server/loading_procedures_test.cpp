@@ -22,10 +22,11 @@ protected:
 
 TEST_F(LoadingProcedures, PendingQuantitiesTakeTheItemsLadderLargestUnitFirst) {
     ProcedureContext context(db(), "GetQtyAsMultiple");
-    EXPECT_EQ(loading::GetQtyAsMultiple(context, "FD001", 240 + 48 + 5), "1*2*5");
-    EXPECT_EQ(loading::GetQtyAsMultiple(context, "FD004", 12), "1*0");
-    EXPECT_EQ(loading::GetQtyAsMultiple(context, "FD004", 7.5), "0*7.5");
-    EXPECT_EQ(loading::GetQtyAsMultiple(context, "FD003", 48), "48");
+    EXPECT_EQ(
+        std::tuple(loading::GetQtyAsMultiple(context, "FD001", 240 + 48 + 5),
+                   loading::GetQtyAsMultiple(context, "FD004", 12), loading::GetQtyAsMultiple(context, "FD004", 7.5),
+                   loading::GetQtyAsMultiple(context, "FD003", 48)),
+        std::tuple("1*2*5", "1*0", "0*7.5", "48"));
     EXPECT_EQ(loading::GetQtyAsMultiple(context, "FD099", 10), "10");  // gone from the master
     EXPECT_EQ(loading::GetQtyAsMultiple(context, "FD001", 0), "");
 }
@@ -63,9 +64,9 @@ TEST_F(LoadingProcedures, LoadTimeSchemesComeOnlyWhenAQuantityReachesThem) {
                                                                    P(18),
                                                                    P("C002")});
     };
-    EXPECT_TRUE(find("FD001", 99).empty());
-    EXPECT_EQ(testkit::RowsText(find("FD001", 150).front()), "0");
-    EXPECT_EQ(testkit::RowsText(find("FD001", 480).front()), "1");
+    EXPECT_EQ(std::tuple(find("FD001", 99).empty(), testkit::RowsText(find("FD001", 150).front()),
+                         testkit::RowsText(find("FD001", 480).front())),
+              std::tuple(true, "0", "1"));
     EXPECT_EQ(testkit::RowsText(find("PC001", 143).empty() ? platform::ResultSet{} : find("PC001", 143).back()), "");
     EXPECT_EQ(Rows("sp_get_SchemeItemsDetail_MUOM", {P(103), P("PC001")}),
               "1031|144r|287r|10r|PC002|103;"

@@ -2,8 +2,6 @@
 // connection library, then converted to the declared type by the server.
 #include <gtest/gtest.h>
 
-#include <tuple>
-
 #include "platform/convert.h"
 #include "server/procedure_arguments.h"
 #include "server_test_support.h"

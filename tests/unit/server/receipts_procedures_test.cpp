@@ -31,9 +31,8 @@ TEST_F(ReceiptProcedures, TheFormsAskedAndOutstandingNarrowTheList) {
     EXPECT_EQ(Listed("%", 0, 0), "IN504,IN510,IN506,IN508,IN509,IN503,IN511,IN513");
     EXPECT_EQ(Listed("%", 8, 0), "IN504,IN508,IN511,IN513");
     // Outstanding: the forms asked that have not come.
-    EXPECT_EQ(Listed("%", 4, 32), "IN508,IN509,IN503,IN513");
-    EXPECT_EQ(Listed("%", 12, 96), "IN508,IN509,IN503,IN511,IN513");
-    EXPECT_EQ(Listed("C014", 0, 0), "IN508,IN509");
+    EXPECT_EQ(std::tuple(Listed("%", 4, 32), Listed("%", 12, 96), Listed("C014", 0, 0)),
+              std::tuple("IN508,IN509,IN503,IN513", "IN508,IN509,IN503,IN511,IN513", "IN508,IN509"));
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 // reference and the document type's count, the sales confirmations the note was made
 // from, and the credit gate ahead of it all.
 #include <string>
-#include <tuple>
 
 #include "platform/convert.h"
 #include "save_test_support.h"
@@ -93,8 +92,7 @@ protected:
 TEST_F(TransactionSerial, WritesTheReferenceAndMovesTheCountOfTheTypeSent) {
     // The proposed reference kept: the type's count moves, the user is told the dispatch number.
     EXPECT_EQ(Serial("dn-tn", " TN/DN/43 ", 1), platform::Value("DN50"));
-    EXPECT_EQ(Counts(), "DN-KA=7 DN-OLD=112 DN-TN=43 SC-TN=113");
-    EXPECT_EQ(Stored(), "TN/DN/43|dn-tn");
+    EXPECT_EQ(std::tuple(Counts(), Stored()), std::tuple("DN-KA=7 DN-OLD=112 DN-TN=43 SC-TN=113", "TN/DN/43|dn-tn"));
     // Changed after the prefix, the reference still spends the type's number.
     EXPECT_EQ(Serial("DN-KA", "KA/DN/8A"), platform::Value("DN51"));
     EXPECT_EQ(Counts(), "DN-KA=8 DN-OLD=112 DN-TN=43 SC-TN=113");

@@ -82,9 +82,8 @@ TEST_F(SaveDetail, ARefusalTakesNothingAndStoresNothing) {
     db().BeginTrans();
     const auto refused = Call("sp_Save_dispatchdetail_UOM_QAX", line.Parameters(false, true));
     ASSERT_EQ(refused.size(), 1u) << "nothing was written, so no row count goes ahead of the answer";
-    EXPECT_EQ(testkit::RowsText(refused.front()), "0");
-    EXPECT_EQ(Batches("5, 6, 7"), "5=600.0 6=120.0 7=144.0");
-    EXPECT_EQ(NoteRows("COUNT(*)", note), "0");
+    EXPECT_EQ(std::tuple(testkit::RowsText(refused.front()), Batches("5, 6, 7"), NoteRows("COUNT(*)", note)),
+              std::tuple("0", "5=600.0 6=120.0 7=144.0", "0"));
 
     // The transaction goes on: exactly what is there can still be taken.
     line.baseQuantity = 744;

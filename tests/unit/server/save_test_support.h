@@ -16,30 +16,18 @@ namespace server::save_test {
 // The values of one line, with those of a plain sold line of Marie Biscuit in boxes.
 struct Line {
     long long dispatchID = 0;
-    std::string item = "FD001";
-    std::string batch;
-    double originalPrice = 9.00;
-    double baseQuantity = 24;
-    int batchTrack = 1;
-    int trackInventory = 1;
+    std::string item = "FD001", batch;
+    double originalPrice = 9.00, baseQuantity = 24;
+    int batchTrack = 1, trackInventory = 1;
     int customerCategory = 2;  // sent by the customer-price procedure only
-    int freeItem = 0;
-    int freeRow = 0;
+    int freeItem = 0, freeRow = 0;
     platform::Value dispatchDay;  // today when left empty
-    int datedPosting = 0;
-    int unit = 2;
-    double unitQuantity = 1;
-    double unitPrice = 216.00;
-    int rowNumber = 1;
-    int otherGroupItem = 0;
-    int schemeID = 0;
-    std::string freeSerial;
-    std::string schemeIDs;
-    std::string splCatSchemeIDs;
+    int datedPosting = 0, unit = 2;
+    double unitQuantity = 1, unitPrice = 216.00;
+    int rowNumber = 1, otherGroupItem = 0, schemeID = 0;
+    std::string freeSerial, schemeIDs, splCatSchemeIDs;
     int splCatScheme = 0;
-    std::string splCatSerial;
-    std::string multiScheme;
-    std::string multiSplCatScheme;
+    std::string splCatSerial, multiScheme, multiSplCatScheme;
 
     // The parameters of the procedure the screen picks by price option, short (other-
     // category-group items on) or long.

@@ -55,9 +55,9 @@ TEST_F(TwoClerks, OnlyOneGetsTheLastCarton) {
     // asked for by its batch number was not made up from the other number.
     const ClerkResult& winner = first.stored == 1 ? first : second;
     const ClerkResult& loser = first.stored == 1 ? second : first;
-    EXPECT_EQ(NoteRows("Batch_Number, Quantity", winner.dispatchID), "MJ10|6r");
-    EXPECT_EQ(NoteRows("COUNT(*)", loser.dispatchID), "0");
-    EXPECT_EQ(Text("SELECT Quantity FROM Batch_Products WHERE Batch_Number = 'MJ11'"), "300r");
+    EXPECT_EQ(std::tuple(NoteRows("Batch_Number, Quantity", winner.dispatchID), NoteRows("COUNT(*)", loser.dispatchID),
+                         Text("SELECT Quantity FROM Batch_Products WHERE Batch_Number = 'MJ11'")),
+              std::tuple("MJ10|6r", "0", "300r"));
     // Both notes took their own number.
     EXPECT_EQ(
         Text("SELECT group_concat(DocumentID) FROM (SELECT DocumentID FROM DispatchAbstract WHERE DispatchID IN (" +

@@ -86,12 +86,7 @@ protected:
 };
 
 TEST_F(SchemeProcedures, AnItemsSchemesAreThoseStandingWhoseSlabItsTotalReaches) {
-    struct Case {
-        const char *item, *day;
-        double quantity, amount;
-        const char *customer, *madeBy, *expected;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, const char*, double, double, const char*, const char*, const char*> cases[] = {
         {"A1", kMidJune, 11, 0, "C1", "", ""},                   // scheme 6 counts dozens from one on
         {" a1 ", kMidJune, 288, 999.99, "C1", "", "1/11;6/61"},  // two gross
         {"A1", kMidJune, 1368, 1000, "C1", "", "2/21;6/61"},     // 9.5 gross, between the bands
@@ -104,17 +99,17 @@ TEST_F(SchemeProcedures, AnItemsSchemesAreThoseStandingWhoseSlabItsTotalReaches)
         {"A1", kMidJune, 12, 0, "C2", "09/06/2030", "6/61"},
         {"A1", kMidJune, 12, 0, "C2", "1", ""},  // the old note was not found
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(SKU(c.item, c.day, c.quantity, c.amount, c.customer, c.madeBy), c.expected) << c.quantity;
+    for (const auto& [code, day, quantity, amount, customer, madeBy, expected] : cases)
+        EXPECT_EQ(SKU(code, day, quantity, amount, customer, madeBy), expected) << quantity;
     EXPECT_EQ(Rows("Zuro_sp_FindDispatch_SKUSchemeID_New", {P("a1"), P(kMidJune), P(288.0), P("C1")}, {1, 2, 3}),
               "A1/Gross Offer/3;A1/Dozens/3");
 
     const auto slab = [&](int type, int slabID, const char* item) {
         return Rows("sp_get_SKUBased_SchItemsDetail", {P(1), P("A1"), P(type), P(slabID), P(item)});
     };
-    EXPECT_EQ(slab(3, 12, "A1"), "1|10r|999r|2r|NULL|3|2|1440r|12");
-    EXPECT_EQ(slab(3, 0, "a1"), "1|2r|9r|1r|NULL|3|2|0r|11;1|10r|999r|2r|NULL|3|2|1440r|12");
-    EXPECT_EQ(slab(17, 12, "A1") + slab(3, 12, "B7") + slab(3, 21, "A1"), "");
+    EXPECT_EQ(
+        std::tuple(slab(3, 12, "A1"), slab(3, 0, "a1"), slab(17, 12, "A1") + slab(3, 12, "B7") + slab(3, 21, "A1")),
+        std::tuple("1|10r|999r|2r|NULL|3|2|1440r|12", "1|2r|9r|1r|NULL|3|2|0r|11;1|10r|999r|2r|NULL|3|2|1440r|12", ""));
 }
 
 TEST_F(SchemeProcedures, SpecialCategorySchemesTheirItemsAndMinimums) {
@@ -128,10 +123,7 @@ TEST_F(SchemeProcedures, SpecialCategorySchemesTheirItemsAndMinimums) {
     EXPECT_EQ(Rows("Zuro_sp_GetSplCategoryItems_New", {P(101)}), "A1|24r;B7|6r");
     EXPECT_EQ(Rows("Zuro_sp_GetSplCategoryItems_New", {P(1)}), "");
 
-    struct Case {
-        int scheme;
-        const char *check, *expected;
-    };
+    using Case = std::tuple<int, const char*, const char*>;
     const Case cases[] = {
         {101, "A1,12,1|B7,6,1|A1,12,1", "1"},  // one item's rows add up
         {101, "a1,24,0|B7,6,0|ZZ,1,1|", "1"},
@@ -140,8 +132,8 @@ TEST_F(SchemeProcedures, SpecialCategorySchemesTheirItemsAndMinimums) {
         {102, "", "1"},         // no item asks a minimum
         {1, "A1,1,1", "0"},     // an item scheme
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(Rows("Zuro_SP_isAllItemsexistsMinQty", {P(c.scheme), P(c.check)}), c.expected) << c.check;
+    for (const auto& [scheme, check, expected] : cases)
+        EXPECT_EQ(Rows("Zuro_SP_isAllItemsexistsMinQty", {P(scheme), P(check)}), expected) << check;
     for (const char* bad : {"A1,24|B7,6,1", "A1,x,1", ",1,1", "A1,1,1,1"})
         EXPECT_THAT(Refusal("Zuro_SP_isAllItemsexistsMinQty", {P(101), P(bad)}),
                     ::testing::HasSubstr("is not of the form item,quantity,value"));
@@ -153,10 +145,11 @@ TEST_F(SchemeProcedures, TheSpecialCategorySlabIsTheHighestTheTotalOfItsUnitReac
         const std::string row = SplSlab(101, base, 0);
         EXPECT_EQ(row.empty() ? "" : platform::Split(row, "|")[6], slab) << base;
     }
-    EXPECT_EQ(SplSlab(101, 500, 0), "3|1|500r|99999r|1|500r|1012|2r|0r|0r");
-    EXPECT_EQ(SplSlab(102, 0, 0), "3|4|0r|99999r|1|0r|1021|1r|0r|0r");  // the value 0 the screen sends
-    EXPECT_EQ(SplSlab(103, 0, 1, "C1", 0), "1|3|1r|10r|1|0r|1031|0r|0r|5r");
-    EXPECT_EQ(SplSlab(103, 0, 1, "C1", 3) + SplSlab(104, 5, 0, "C1") + SplSlab(1, 500, 0), "");
+    // The second sends the value 0 as the screen does.
+    EXPECT_EQ(std::tuple(SplSlab(101, 500, 0), SplSlab(102, 0, 0), SplSlab(103, 0, 1, "C1", 0),
+                         SplSlab(103, 0, 1, "C1", 3) + SplSlab(104, 5, 0, "C1") + SplSlab(1, 500, 0)),
+              std::tuple("3|1|500r|99999r|1|500r|1012|2r|0r|0r", "3|4|0r|99999r|1|0r|1021|1r|0r|0r",
+                         "1|3|1r|10r|1|0r|1031|0r|0r|5r", ""));
     EXPECT_NE(SplSlab(104, 5, 0, "C2"), "");
 }
 

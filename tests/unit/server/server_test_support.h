@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <tuple>  // the tests compare neighbouring values as one tuple
 
 #include "platform/database.h"
 #include "platform/runtime_error.h"

@@ -33,8 +33,7 @@ TEST_F(Transactions, AFailedStatementInsideLeavesTheTransactionOpenForTheRollbac
               "FOREIGN KEY constraint failed");
     EXPECT_TRUE(first_.InTransaction());
     first_.RollbackTrans();
-    EXPECT_FALSE(first_.InTransaction());
-    EXPECT_EQ(Stock(*second_), "144r");
+    EXPECT_EQ(std::tuple(first_.InTransaction(), Stock(*second_)), std::tuple(false, "144r"));
 }
 
 TEST_F(Transactions, RefusesCallsOutOfOrder) {

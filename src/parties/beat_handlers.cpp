@@ -12,7 +12,6 @@ namespace keys = platform::keys;
 
 void Zuro_frmDispatch_Dispatch::txtBeat_Change() {
     // Emptying the box below raises this handler again; that run has nothing to add.
-    static bool bEmptyingBox = false;
     if (bEmptyingBox) return;
     Handled("txtBeat_Change", [&] {
         auto& global = host_.global;

@@ -213,6 +213,9 @@ public:
     bool bPartyAutoFilled = false;
     bool bGroupReset = false;
     bool bGroupClearedSalesman = false;
+    // The beat box is being emptied by its own Change handler. Each form keeps its own:
+    // several clerks' forms run at once.
+    bool bEmptyingBox = false;
     std::string szGroupIDs, szGroupNames;
     std::string szCurrentGroupID;
     void LoadSalesman();

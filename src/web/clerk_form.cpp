@@ -169,7 +169,9 @@ std::optional<std::string> ClerkForm::PrintedPdf(int n) const {
 
 ClerkForm::Clock::time_point ClerkForm::LastUsed() const {
     std::lock_guard lock(mutex_);
-    return lastUsed_;
+    // A form whose handler is at work is in use, however long the work takes; one that
+    // waits for the clerk's answer is not.
+    return phase_ == Phase::Running ? Clock::now() : lastUsed_;
 }
 
 }  // namespace web

@@ -53,6 +53,7 @@ public:
     // The file of the nth document printed (from 1), as PDF.
     std::optional<std::string> PrintedPdf(int n) const;
 
+    // When the clerk last used the form: now while a handler is at work.
     Clock::time_point LastUsed() const;
 
 private:

@@ -220,7 +220,7 @@ TEST(ServedScreen, TheClerkClosingTheScreenIsAskedAboutItsLinesAndMayStay) {
 }
 
 TEST(ServedScreen, AFormLeftIdleIsClosedAndItsNoteIsNotWritten) {
-    ServedScreen screen(CreditPasswordSettings(), std::chrono::milliseconds(300));
+    ServedScreen screen(CreditPasswordSettings(), std::chrono::milliseconds(1000));
     PutRaviOverItsLimit(screen);
     ClerkTab tab(screen, kNewNote);
     KeyCustomer(tab, "Ravi");

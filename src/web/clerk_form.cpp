@@ -103,14 +103,13 @@ std::optional<std::vector<std::string>> ClerkForm::Ask(session::Session& session
 }
 
 nlohmann::json ClerkForm::Snapshot(session::Session& session, const host::DialogQuestion* question) {
-    for (const std::string& detail : session.transcript.TakePrints()) {
-        const std::string pdf = PrintedPdfOf(detail);
-        if (pdf.empty()) continue;
-        printNames_.push_back(FileNameOf(pdf));
+    CallLines call{std::exchange(lines_, {}), {}};
+    {
         std::lock_guard lock(mutex_);
-        printedPdfs_.push_back(pdf);
+        for (const std::string& detail : session.transcript.TakePrints())
+            if (std::string pdf = PrintedPdfOf(detail); !pdf.empty()) printedPdfs_.push_back(pdf);
+        for (const std::string& pdf : printedPdfs_) call.prints.push_back(FileNameOf(pdf));
     }
-    CallLines call{std::exchange(lines_, {}), printNames_};
     return FormState(session, question, call);
 }
 

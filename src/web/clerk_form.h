@@ -87,7 +87,6 @@ private:
 
     // The form thread's own: what the transcript said during the call.
     std::vector<std::string> lines_;
-    std::vector<std::string> printNames_;
 
     std::thread thread_;  // last: started once everything above is made
 };

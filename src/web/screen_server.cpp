@@ -91,9 +91,9 @@ struct ScreenServer::Impl {
     }
 
     void OpenForm(const httplib::Request& request, httplib::Response& response) {
-        const json body = ParseBody(request.body);
+        // A body that asks for no screen is refused before a form and its thread are made.
+        const std::vector<std::string> openWords = OpenWords(ParseBody(request.body));
         auto form = std::make_shared<ClerkForm>(NewFormSetup());
-        const std::vector<std::string> openWords = OpenWords(body);
         json state = form->Call([&](session::Session& session) { OpenScreen(session, openWords); });
         std::string token = registry.Add(std::move(form));
         AnswerJson(response, 201, {{"token", token}, {"state", state}});
